@@ -1,0 +1,58 @@
+#include "testregistry.h"
+
+#include "glviews/glsurfaceformat.h"
+#include "mainwindow/coreresources.h"
+
+#include <QApplication>
+#include <QStandardPaths>
+#include <QTest>
+
+#include <cstdio>
+#include <map>
+#include <string>
+
+namespace TVX::TEST {
+
+namespace {
+std::map<std::string, TestFactory>& registry()
+{
+    static std::map<std::string, TestFactory> tests;
+    return tests;
+}
+} // namespace
+
+int registerTest(const char* className, TestFactory factory)
+{
+    registry()[className] = std::move(factory);
+    return 0;
+}
+
+} // namespace TVX::TEST
+
+// Usage: tests_<folder> [CLASS [QtTest options]]; without a class every registered class runs.
+int main(int argc, char** argv)
+{
+    // Settings written by tests go to a throw-away location, never to the user's own store.
+    QStandardPaths::setTestModeEnabled(true);
+    TVX::CORE::installCompatibilityGLFormat();
+    QApplication app(argc, argv);
+    TVX::CORE::registerCoreResources();
+
+    auto& tests = TVX::TEST::registry();
+    if (argc > 1 && argv[1][0] != '-') {
+        const auto it = tests.find(argv[1]);
+        if (it == tests.end()) {
+            std::fprintf(stderr, "no test class %s\n", argv[1]);
+            return 2;
+        }
+        argv[1] = argv[0];
+        const auto test = it->second();
+        return QTest::qExec(test.get(), argc - 1, argv + 1);
+    }
+    int failures = 0;
+    for (const auto& [name, factory] : tests) {
+        const auto test = factory();
+        failures += QTest::qExec(test.get(), argc, argv);
+    }
+    return failures;
+}
