@@ -7,7 +7,10 @@
 #include <QStandardPaths>
 #include <QTest>
 
+#include <dlfcn.h>
+
 #include <cstdio>
+#include <cstdlib>
 #include <map>
 #include <string>
 
@@ -29,11 +32,23 @@ int registerTest(const char* className, TestFactory factory)
 
 } // namespace TVX::TEST
 
+namespace {
+// Mesa unloads its software driver when the display closes, and the driver's own leaks would then
+// be reported against an unknown module that no suppression can name. Keeping it loaded lets the
+// leak suppressions for the driver apply.
+void pinSoftwareGLDriver()
+{
+    if (std::getenv("LIBGL_ALWAYS_SOFTWARE"))
+        dlopen("/usr/lib/x86_64-linux-gnu/dri/swrast_dri.so", RTLD_NOW | RTLD_NODELETE);
+}
+} // namespace
+
 // Usage: tests_<folder> [CLASS [QtTest options]]; without a class every registered class runs.
 int main(int argc, char** argv)
 {
     // Settings written by tests go to a throw-away location, never to the user's own store.
     QStandardPaths::setTestModeEnabled(true);
+    pinSoftwareGLDriver();
     TVX::CORE::installCompatibilityGLFormat();
     QApplication app(argc, argv);
     TVX::CORE::registerCoreResources();
