@@ -1,22 +1,61 @@
-// tvxtool: command-line access to scan files and projects, for tests, scripts and support.
+// tvxtool: command-line access to scan files, annotation files and projects, for tests, scripts
+// and support. Output is JSON on stdout; errors go to stderr with exit code 1, wrong usage with 2.
+#include "toolcommand.h"
+
 #include <QCoreApplication>
 
 #include <cstdio>
-#include <cstring>
+#include <iterator>
+
+using namespace TVX::TOOL;
 
 namespace {
 
-const char usage[] = "usage: tvxtool COMMAND [ARGUMENTS]\n";
+const ToolCommand commands[] = {
+    {"info", "info SCAN.tvx", runInfo},
+    {"point", "point SCAN.tvx COLUMN ROW", runPoint},
+    {"cloud", "cloud SCAN.tvx --output FILE [--step N]", runCloud},
+    {"annotations", "annotations SCAN.tvx [--rewrite OUT.xml]", runAnnotations},
+    {"project", "project PROJECT_FILE", runProject},
+    {"demo", "demo DIR [--scans N] [--columns C] [--rows R] [--seed S]", runDemo},
+};
+
+QByteArray usageText()
+{
+    QByteArray text("usage: tvxtool COMMAND [ARGUMENTS]\n\ncommands:\n");
+    for (const ToolCommand& command : commands)
+        text += QByteArray("  tvxtool ") + command.synopsis + '\n';
+    return text;
+}
 
 } // namespace
 
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
-    if (argc < 2 || std::strcmp(argv[1], "--help") == 0) {
-        std::fputs(usage, argc < 2 ? stderr : stdout);
-        return argc < 2 ? 2 : 0;
+    QStringList arguments = app.arguments().mid(1);
+    if (arguments.size() == 1 && (arguments.first() == QLatin1String("--help") || arguments.first() == QLatin1String("-h"))) {
+        std::fputs(usageText().constData(), stdout);
+        return 0;
     }
-    std::fputs(usage, stderr);
-    return 2;
+    const ToolCommand* command = nullptr;
+    if (!arguments.isEmpty()) {
+        for (const ToolCommand& candidate : commands) {
+            if (arguments.first() == QLatin1String(candidate.name))
+                command = &candidate;
+        }
+    }
+    if (!command) {
+        std::fputs(usageText().constData(), stderr);
+        return 2;
+    }
+    try {
+        return command->run(arguments.mid(1));
+    } catch (const UsageError&) {
+        std::fputs(usageText().constData(), stderr);
+        return 2;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return 1;
+    }
 }

@@ -1,0 +1,10 @@
+#include "toolcommand.h"
+
+namespace TVX::TOOL {
+
+int runInfo(const QStringList&)
+{
+    throw CommandError("tvxtool info: not available yet");
+}
+
+} // namespace TVX::TOOL
