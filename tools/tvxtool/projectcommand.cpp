@@ -1,10 +1,87 @@
+// tvxtool project PROJECT_FILE: a project file as JSON, read by the serializer alone (no lock is
+// taken and no scan is opened).
+#include "jsonoutput.h"
 #include "toolcommand.h"
+
+#include "fileio/tvxprojectserializer.h"
+#include "project/projectmessages.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <cstdio>
+
+using namespace TVX::CORE;
 
 namespace TVX::TOOL {
 
-int runProject(const QStringList&)
+namespace {
+
+QJsonObject jsonScan(const ProjectItemScan& scan)
 {
-    throw CommandError("tvxtool project: not available yet");
+    return {{QStringLiteral("type"), QStringLiteral("scan")},
+            {QStringLiteral("name"), scan.name()},
+            {QStringLiteral("id"), qint64(scan.scanId())},
+            {QStringLiteral("enabled"), scan.isEnabled()}};
+}
+
+// Folders nest at most a thousand levels deep (the reader refuses more), so recursion is safe.
+QJsonObject jsonFolder(const ProjectItemScanGroup& folder)
+{
+    QJsonArray children;
+    for (const auto& sub : folder.folders())
+        children.append(jsonFolder(*sub));
+    for (const auto& scan : folder.scans())
+        children.append(jsonScan(*scan));
+    return {{QStringLiteral("type"), QStringLiteral("folder")},
+            {QStringLiteral("name"), folder.name()},
+            {QStringLiteral("enabled"), folder.isEnabled()},
+            {QStringLiteral("children"), children}};
+}
+
+QJsonArray jsonNumbers(const double* begin, const double* end)
+{
+    QJsonArray numbers;
+    for (const double* value = begin; value != end; ++value)
+        numbers.append(*value);
+    return numbers;
+}
+
+} // namespace
+
+int runProject(const QStringList& arguments)
+{
+    if (arguments.size() != 1 || arguments.first().startsWith(QLatin1Char('-')))
+        throw UsageError("project: expects one project file");
+    const QString path = QFileInfo(arguments.first()).absoluteFilePath();
+
+    TVXProjectSerializer serializer(path);
+    TVXProjectContent content;
+    if (!serializer.open(TVXProjectSerializer::ReadOnly) || !serializer.read(content)) {
+        const QString message =
+            ProjectMessages::readFailure(QDir::toNativeSeparators(path), serializer.formatVersion(),
+                                         serializer.writerMajor(), serializer.writerMinor(), serializer.writerPatch());
+        std::fputs(message.toLocal8Bit().constData(), stderr);
+        return 1;
+    }
+
+    QJsonArray coordinateSystems;
+    for (const auto& system : content.coordinateSystems) {
+        coordinateSystems.append(QJsonObject{
+            {QStringLiteral("name"), system.name},
+            {QStringLiteral("values"), jsonNumbers(system.values.data(), system.values.data() + system.values.size())}});
+    }
+    printJson({{QStringLiteral("path"), path},
+               {QStringLiteral("formatVersion"), qint64(serializer.formatVersion())},
+               {QStringLiteral("writerVersion"),
+                QJsonArray{qint64(serializer.writerMajor()), qint64(serializer.writerMinor()),
+                           qint64(serializer.writerPatch())}},
+               {QStringLiteral("origin"), jsonNumbers(content.origin.data(), content.origin.data() + 3)},
+               {QStringLiteral("coordinateSystems"), coordinateSystems},
+               {QStringLiteral("currentCoordinateSystem"), qint64(content.currentCoordinateSystem)},
+               {QStringLiteral("scans"), QJsonArray::fromStringList(content.scans)},
+               {QStringLiteral("tree"), jsonFolder(*content.root)}});
+    return 0;
 }
 
 } // namespace TVX::TOOL

@@ -4,8 +4,11 @@
 
 #include <QString>
 
+#include <array>
 #include <memory>
 #include <vector>
+
+class QIODevice;
 
 namespace TVX::CORE {
 
@@ -24,6 +27,20 @@ class TVXFileSceneItems;
 class TVXFile final
 {
 public:
+    // The scan file's header and section directory.
+    static constexpr quint32 magic = 0x54565846; // "TVXF"
+    static constexpr quint32 latestFormatVersion = 2;
+    static constexpr quint32 streamVersion = 12;
+    static constexpr quint32 fileBeginTag = 0x100000;
+    static constexpr quint32 directoryBeginTag = 0x110000;
+    static constexpr quint32 directoryEndTag = 0x11FFFF;
+    // Directory tags of the five sections, in the order they are read.
+    static constexpr std::array<quint32, 5> sectionTags = {0x110001, 0x110002, 0x110003, 0x110004, 0x110005};
+    // "scan information", "layer table", "meta information", "reference information", "scene items"
+    // for the sections in that order; used in diagnostics.
+    static QString sectionName(std::size_t section);
+
+    // `path` is the scan file; the data file is derived from it (see dataPathFor).
     explicit TVXFile(const QString& path);
     ~TVXFile();
     TVXFile(const TVXFile&) = delete;
@@ -31,11 +48,26 @@ public:
 
     QString path() const;     // the scan file
     QString dataPath() const; // the point data file
+    // The data file of a scan file: its folder, "/", its complete base name, ".tvxsd".
+    static QString dataPathFor(const QString& scanPath);
 
-    // Opens the scan file, then the data file; read-only when mode is 0.
+    // Opens the scan file, then the data file; read-only when mode is 0, else read-write (existing
+    // files only). True at once when both are open; false as soon as one fails (a scan file opened
+    // before a failing data file stays open).
     bool open(int mode = 0);
+    // Closes both files; always true.
     bool close();
+    // Reads the header and all five sections; needs both files open. Every section object and the
+    // scene graph are recreated first. False for a file that is not a scan file this reader knows
+    // (see errorString); throws the read error when the stream fails inside the directory
+    // ("libs/core/src/fileio/tvxfile", line 243) or a section.
     bool readHeader();
+    // The same from a device holding a scan file (tests, fuzzing); the data file is not touched.
+    bool readHeader(QIODevice& scanFile);
+    // Why the last readHeader returned false.
+    QString errorString() const;
+    // Open the data file read-only and close it, around lazy reads. Point, tile and point cloud
+    // reads open and close the data file themselves when it is not open.
     bool openData();
     void closeData();
 
@@ -61,6 +93,8 @@ public:
     bool readPointAndColour(quint32 column, quint32 row, double& x, double& y, double& z, quint8& r, quint8& g,
                             quint8& b, bool& valid);
     bool readTile(quint32 tileColumn, quint32 tileRow, TVXFileTile& tile);
+    // The undecoded records of a tile, as stored (column by column), in one read. False as readTile.
+    bool readTileRecords(quint32 tileColumn, quint32 tileRow, std::vector<char>& records);
 
     // Every cell whose column and row are multiples of `step`, in tile order (tile columns outer),
     // as x, y, z single-precision triples; invalid cells as (0, 0, 0). False without a distance

@@ -5,7 +5,9 @@
 namespace TVX::CORE {
 
 // A polygon over the panorama. Its fill mesh splits a self-crossing outline into the regions that
-// the even-odd rule fills and is rebuilt lazily, once per change of the vertices.
+// the even-odd rule fills and is rebuilt lazily, once per change of the vertices. The outline is
+// filled as seen in the plane that touches the unit sphere at the vertices' mean direction; vertices
+// more than 89° away from that direction are left out of the fill.
 class ScanViewPolygon final : public ScanViewItem
 {
 public:

@@ -1,0 +1,621 @@
+#include "project/basicproject.h"
+
+#include "fileio/tvxfile.h"
+#include "fileio/tvxfilescaninfo.h"
+#include "fileio/tvxfiletilecache.h"
+#include "fileio/tvxprojectserializer.h"
+#include "project/filetreemodel.h"
+#include "project/projectlock.h"
+#include "project/projectmessages.h"
+#include "project/referencepointstablemodel.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QSettings>
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+Q_LOGGING_CATEGORY(lcProject, "tvx.project", QtWarningMsg)
+
+namespace TVX::CORE {
+
+namespace {
+
+struct ScanEntry {
+    quint32 id{0};
+    QString relativePath;
+    std::shared_ptr<TVXFile> file;
+    std::shared_ptr<ScanViewSceneGraph> sceneGraph;
+    QSharedPointer<ReferencePointsTableModel> referencePoints;
+    std::array<bool, 3> viewOpen{}; // planar, spherical, point cloud
+    bool modified{false};
+};
+
+bool insideGrid(qint64 column, qint64 row, const TVXFileScanInfo& info)
+{
+    return column >= 0 && row >= 0 && column < qint64(info.columns) && row < qint64(info.rows);
+}
+
+// A cell of a decoded tile; the cell must lie in the tile.
+bool sampleOfTile(const TVXFileTile& tile, quint32 column, quint32 row, CellSample& sample)
+{
+    const std::size_t at = tile.indexOf(column, row);
+    if (at >= tile.points.size() || at >= tile.distances.size())
+        return false;
+    sample.point = tile.points[at];
+    sample.distance = tile.distances[at];
+    sample.valid = sample.distance != 0.0;
+    sample.hasColour = false;
+    if (3 * at + 2 < tile.colours.size()) {
+        sample.red = tile.colours[3 * at];
+        sample.green = tile.colours[3 * at + 1];
+        sample.blue = tile.colours[3 * at + 2];
+        sample.hasColour = true;
+    } else if (at < tile.intensities.size()) {
+        sample.red = sample.green = sample.blue = tile.intensities[at];
+        sample.hasColour = true;
+    }
+    return true;
+}
+
+} // namespace
+
+struct BasicProject::Private {
+    bool open{false};
+    bool readOnly{false};
+    bool lockOwned{false};
+    bool modified{false};
+    bool unsavedAnnounced{false};
+    QString projectFile; // absolute
+    QString directory;   // absolute
+    std::unique_ptr<ProjectLock> lock;
+    std::array<double, 3> origin{};
+    std::vector<TVXProjectContent::CoordinateSystem> coordinateSystems;
+    quint32 currentCoordinateSystem{0};
+    ProjectItemScanGroupPtr holder;
+    std::vector<ScanEntry> scans;
+    // Scans of the tree whose header could not be read, by identifier: kept for the next save.
+    std::map<quint32, QString> unreadable;
+    TVXFileTileCache tileCache;
+    QSharedPointer<FileTreeModel> model;
+
+    ScanEntry* entry(quint32 scanId)
+    {
+        const auto it = std::find_if(scans.begin(), scans.end(), [scanId](const ScanEntry& e) { return e.id == scanId; });
+        return it == scans.end() ? nullptr : &*it;
+    }
+    const ScanEntry* entry(quint32 scanId) const { return const_cast<Private*>(this)->entry(scanId); }
+};
+
+const QString BasicProject::defaultProjectFileName = QStringLiteral("tvx.prj");
+
+BasicProject& BasicProject::instance()
+{
+    static BasicProject project;
+    return project;
+}
+
+QString BasicProject::userNameFromSettings()
+{
+    return QSettings().value(QStringLiteral("global/userName"), QStringLiteral("unknown")).toString();
+}
+
+BasicProject::BasicProject() : d(std::make_unique<Private>())
+{
+    d->model = QSharedPointer<FileTreeModel>::create();
+    d->model->setViewStateProvider(
+        [this](quint32 scanId, int kind) { return isViewOpen(scanId, ViewKind(kind)); });
+    const auto changed = [this] { setModified(true); };
+    connect(d->model.data(), &FileTreeModel::relevantDataChanged, this, changed);
+    connect(d->model.data(), &QAbstractItemModel::rowsInserted, this, changed);
+    connect(d->model.data(), &QAbstractItemModel::rowsRemoved, this, changed);
+    connect(d->model.data(), &QAbstractItemModel::rowsMoved, this, changed);
+    connect(d->model.data(), &FileTreeModel::scansRemoved, this, &BasicProject::forgetScans);
+}
+
+BasicProject::~BasicProject()
+{
+    // A process that ends with the project open leaves no stale lock behind.
+    if (d->open && ownsLock())
+        d->lock->release();
+}
+
+bool BasicProject::openProject(const QString& path, const QString& userName, int& code, QString& message)
+{
+    message.clear();
+    if (d->open) {
+        code = AlreadyOpen;
+        message = ProjectMessages::alreadyOpen();
+        return false;
+    }
+    const QFileInfo info(path);
+    const QString projectFile = info.absoluteFilePath();
+    const QString directory = info.absolutePath();
+
+    auto lock = std::make_unique<ProjectLock>(directory);
+    bool readOnly = false;
+    switch (lock->acquire(userName)) {
+    case ProjectLock::Outcome::HeldByOthers: {
+        QStringList users;
+        lock->readHolders(users);
+        code = LockedByOthers;
+        message = ProjectMessages::lockFound(QDir::toNativeSeparators(directory), users);
+        return false;
+    }
+    case ProjectLock::Outcome::NotCreated:
+        qCInfo(lcProject) << "no lock file could be made in" << directory << "- opening read-only";
+        readOnly = true;
+        break;
+    case ProjectLock::Outcome::Created:
+        break;
+    }
+
+    code = Opened;
+    TVXProjectContent content;
+    if (QFile::exists(projectFile)) {
+        TVXProjectSerializer serializer(projectFile);
+        if (!serializer.open(TVXProjectSerializer::ReadOnly) || !serializer.read(content)) {
+            qCInfo(lcProject) << serializer.errorString();
+            code = ReadFailed;
+            message = ProjectMessages::readFailure(QDir::toNativeSeparators(projectFile), serializer.formatVersion(),
+                                                   serializer.writerMajor(), serializer.writerMinor(),
+                                                   serializer.writerPatch());
+            if (!readOnly)
+                lock->release();
+            return false;
+        }
+        if (serializer.formatVersion() < TVXProjectSerializer::currentFormatVersion) {
+            code = OpenedOlderFormat;
+            message = ProjectMessages::olderFormat(serializer.formatVersion(), serializer.writerMajor(),
+                                                   serializer.writerMinor(), serializer.writerPatch());
+        }
+    } else {
+        content.root = ProjectItemScanGroup::create(QStringLiteral("scans"));
+    }
+
+    d->open = true;
+    d->readOnly = readOnly;
+    d->lockOwned = !readOnly;
+    d->lock = std::move(lock);
+    d->projectFile = projectFile;
+    d->directory = directory;
+    installContent(content);
+    return true;
+}
+
+void BasicProject::installContent(TVXProjectContent& content)
+{
+    d->origin = content.origin;
+    d->coordinateSystems = std::move(content.coordinateSystems);
+    d->currentCoordinateSystem = content.currentCoordinateSystem;
+    d->holder = ProjectItemScanGroup::create(QString());
+    d->holder->appendFolder(content.root);
+
+    const QStringList& listed = content.scans;
+    for (int i = 0; i < listed.size(); ++i) {
+        if (!listed[i].isEmpty() && !attachScan(quint32(i), listed[i]))
+            d->unreadable[quint32(i)] = listed[i];
+    }
+    // Every scan node must name a listed scan of its own: nodes of unlisted or already named
+    // identifiers are dropped, listed scans without a node get one in the root folder.
+    std::set<quint64> named;
+    std::vector<ProjectItemScanPtr> stray;
+    content.root->forEachScan([&](const ProjectItemScanPtr& scan) {
+        const quint64 id = scan->scanId();
+        if (id >= quint64(listed.size()) || listed[int(id)].isEmpty() || !named.insert(id).second)
+            stray.push_back(scan);
+    });
+    for (const ProjectItemScanPtr& scan : stray) {
+        qCInfo(lcProject) << "dropping scan node" << scan->name() << "with identifier" << scan->scanId();
+        scan->parent()->takeChild(scan->row());
+    }
+    for (int i = 0; i < listed.size(); ++i) {
+        if (!listed[i].isEmpty() && !named.count(quint64(i)))
+            content.root->appendScan(ProjectItemScan::create(QFileInfo(listed[i]).completeBaseName(), quint64(i)));
+    }
+    d->model->setEditable(!d->readOnly);
+    d->model->setRootHolder(d->holder);
+}
+
+bool BasicProject::attachScan(quint32 scanId, const QString& relativePath)
+{
+    const QString path = QDir(d->directory).absoluteFilePath(relativePath);
+    auto file = std::make_shared<TVXFile>(path);
+    bool read = false;
+    try {
+        read = file->open(0) && file->readHeader();
+    } catch (const std::exception& error) {
+        qCInfo(lcProject) << path << error.what();
+    }
+    file->close();
+    if (!read) {
+        qCInfo(lcProject) << "scan not added:" << path << file->errorString();
+        return false;
+    }
+    ScanEntry entry;
+    entry.id = scanId;
+    entry.relativePath = relativePath;
+    entry.file = file;
+    entry.sceneGraph = file->sceneGraph();
+    entry.referencePoints = QSharedPointer<ReferencePointsTableModel>::create(file);
+    d->scans.push_back(std::move(entry));
+    return true;
+}
+
+bool BasicProject::closeProject(int& code, QString& message)
+{
+    code = Opened;
+    message.clear();
+    if (!d->open)
+        return true;
+    if (!d->readOnly) {
+        const QString lockPath = QDir::toNativeSeparators(d->lock->path());
+        // Somebody deleted our lock and took the project over; it is theirs now. Once they have
+        // closed it (their lock is gone), this project can close too.
+        if (!ownsLock()) {
+            code = LockNotOwned;
+            message = ProjectMessages::lockNotOwned(lockPath);
+            return false;
+        }
+        if (!d->lock->release()) {
+            code = LockNotRemoved;
+            message = ProjectMessages::lockNotRemoved(lockPath);
+            return false;
+        }
+    }
+    clear();
+    return true;
+}
+
+void BasicProject::clear()
+{
+    d->model->setRootHolder(nullptr);
+    d->holder.reset();
+    d->scans.clear();
+    d->unreadable.clear();
+    d->tileCache.clear();
+    d->lock.reset();
+    d->open = d->readOnly = d->lockOwned = false;
+    d->projectFile.clear();
+    d->directory.clear();
+    d->origin = {};
+    d->coordinateSystems.clear();
+    d->currentCoordinateSystem = 0;
+    d->modified = false;
+    announceUnsavedChanges();
+}
+
+void BasicProject::saveProject()
+{
+    if (!d->open)
+        return;
+    TVXProjectContent content;
+    content.origin = d->origin;
+    content.coordinateSystems = d->coordinateSystems;
+    content.currentCoordinateSystem = d->currentCoordinateSystem;
+    content.root = rootFolder();
+    // Entry i of the list is the scan with identifier i; identifiers no scan uses stay empty.
+    std::map<quint32, QString> paths = d->unreadable;
+    for (const ScanEntry& entry : d->scans)
+        paths[entry.id] = entry.relativePath;
+    if (!paths.empty()) {
+        content.scans = QStringList(qsizetype(paths.rbegin()->first) + 1, QString());
+        for (const auto& [id, path] : paths)
+            content.scans[qsizetype(id)] = path;
+    }
+    TVXProjectSerializer serializer(d->projectFile);
+    serializer.open(TVXProjectSerializer::WriteOnly);
+    serializer.write(content);
+    setModified(false);
+}
+
+bool BasicProject::isOpen() const
+{
+    return d->open;
+}
+
+bool BasicProject::isReadOnly() const
+{
+    return d->readOnly;
+}
+
+bool BasicProject::ownsLock() const
+{
+    return d->lockOwned && d->lock->isStillOurs();
+}
+
+QString BasicProject::projectFilePath() const
+{
+    return QDir::toNativeSeparators(d->projectFile);
+}
+
+QString BasicProject::projectDirectory() const
+{
+    return QDir::toNativeSeparators(d->directory);
+}
+
+std::array<double, 3> BasicProject::origin() const
+{
+    return d->origin;
+}
+
+void BasicProject::setOrigin(const std::array<double, 3>& origin)
+{
+    if (origin == d->origin)
+        return;
+    d->origin = origin;
+    setModified(true);
+}
+
+std::vector<TVXProjectContent::CoordinateSystem> BasicProject::coordinateSystems() const
+{
+    return d->coordinateSystems;
+}
+
+void BasicProject::setCoordinateSystems(const std::vector<TVXProjectContent::CoordinateSystem>& systems)
+{
+    d->coordinateSystems = systems;
+    setModified(true);
+}
+
+quint32 BasicProject::currentCoordinateSystem() const
+{
+    return d->currentCoordinateSystem;
+}
+
+void BasicProject::setCurrentCoordinateSystem(quint32 index)
+{
+    if (index == d->currentCoordinateSystem)
+        return;
+    d->currentCoordinateSystem = index;
+    setModified(true);
+}
+
+ProjectItemScanGroupPtr BasicProject::rootFolder() const
+{
+    return d->model->rootFolder();
+}
+
+QSharedPointer<FileTreeModel> BasicProject::treeModel() const
+{
+    return d->model;
+}
+
+int BasicProject::scanCount() const
+{
+    return int(d->scans.size());
+}
+
+std::shared_ptr<TVXFile> BasicProject::scanFile(int index) const
+{
+    return index >= 0 && index < scanCount() ? d->scans[std::size_t(index)].file : nullptr;
+}
+
+int BasicProject::scanIndex(quint32 scanId) const
+{
+    const ScanEntry* entry = d->entry(scanId);
+    return entry ? int(entry - d->scans.data()) : -1;
+}
+
+quint32 BasicProject::scanIdAt(int index) const
+{
+    return index >= 0 && index < scanCount() ? d->scans[std::size_t(index)].id : 0;
+}
+
+std::shared_ptr<TVXFile> BasicProject::scanFileOf(quint32 scanId) const
+{
+    const ScanEntry* entry = d->entry(scanId);
+    return entry ? entry->file : nullptr;
+}
+
+std::shared_ptr<ScanViewSceneGraph> BasicProject::sceneGraph(quint32 scanId) const
+{
+    const ScanEntry* entry = d->entry(scanId);
+    return entry ? entry->sceneGraph : nullptr;
+}
+
+QSharedPointer<ReferencePointsTableModel> BasicProject::referencePoints(quint32 scanId) const
+{
+    const ScanEntry* entry = d->entry(scanId);
+    return entry ? entry->referencePoints : nullptr;
+}
+
+QString BasicProject::scanName(quint32 scanId) const
+{
+    const auto index = d->model->indexOfScan(scanId);
+    return index.isValid() ? d->model->item(index)->name() : QString();
+}
+
+QString BasicProject::scanRelativePath(quint32 scanId) const
+{
+    const ScanEntry* entry = d->entry(scanId);
+    if (entry)
+        return entry->relativePath;
+    const auto it = d->unreadable.find(scanId);
+    return it == d->unreadable.end() ? QString() : it->second;
+}
+
+quint32 BasicProject::unusedScanId() const
+{
+    std::set<quint64> used;
+    for (const ScanEntry& entry : d->scans)
+        used.insert(entry.id);
+    for (const auto& unreadable : d->unreadable)
+        used.insert(unreadable.first);
+    if (const auto root = rootFolder())
+        root->forEachScan([&used](const ProjectItemScanPtr& scan) { used.insert(scan->scanId()); });
+    quint32 id = 0;
+    while (used.count(id))
+        ++id;
+    return id;
+}
+
+qint64 BasicProject::addScan(const QString& path, const ProjectItemScanGroupPtr& folder)
+{
+    if (!d->open)
+        return -1;
+    const QDir directory(d->directory);
+    const QString absolute = directory.absoluteFilePath(path);
+    const quint32 id = unusedScanId();
+    if (!attachScan(id, directory.relativeFilePath(absolute)))
+        return -1;
+    const ProjectItemScanGroupPtr parent = folder ? folder : rootFolder();
+    d->model->addScan(d->model->indexOf(parent.get()), ProjectItemScan::create(QFileInfo(absolute).completeBaseName(), id));
+    return id;
+}
+
+QList<quint32> BasicProject::enabledScans() const
+{
+    QList<quint32> ids;
+    if (const auto root = rootFolder()) {
+        root->forEachScan([&ids](const ProjectItemScanPtr& scan) {
+            if (scan->isEnabled())
+                ids << quint32(scan->scanId());
+        });
+    }
+    return ids;
+}
+
+bool BasicProject::scanPose(quint32 scanId, ScanPose& pose) const
+{
+    const ScanEntry* entry = d->entry(scanId);
+    if (!entry)
+        return false;
+    pose = poseFromTransformation(entry->file->scanInfo().transformation);
+    return true;
+}
+
+bool BasicProject::cellSample(quint32 scanId, qint32 column, qint32 row, CellSample& sample)
+{
+    const int index = scanIndex(scanId);
+    if (index < 0)
+        return false;
+    TVXFile& file = *d->scans[std::size_t(index)].file;
+    const TVXFileScanInfo& info = file.scanInfo();
+    const quint32 tileSize = info.tileSize;
+    if (tileSize == 0 || !insideGrid(column, row, info))
+        return false;
+    TVXFileTilePtr tile;
+    return d->tileCache.lookup(quint32(index), file, quint32(column) / tileSize, quint32(row) / tileSize, tile)
+           && sampleOfTile(*tile, quint32(column), quint32(row), sample);
+}
+
+bool BasicProject::paintLensPicture(quint32 scanId, qint32 column, qint32 row, int radius, QImage& image)
+{
+    const int index = scanIndex(scanId);
+    if (index < 0)
+        return false;
+    TVXFile& file = *d->scans[std::size_t(index)].file;
+    const TVXFileScanInfo& info = file.scanInfo();
+    const quint32 tileSize = info.tileSize;
+    if (tileSize == 0)
+        return true;
+    TVXFileTilePtr tile;
+    bool tileRead = false;
+    quint32 tileColumn = 0, tileRow = 0;
+    for (int dr = -radius; dr <= radius; ++dr) {
+        for (int dc = -radius; dc <= radius; ++dc) {
+            const qint64 c = qint64(column) + dc;
+            const qint64 r = qint64(row) + dr;
+            if (!insideGrid(c, r, info) || !image.valid(radius + dc, radius + dr))
+                continue;
+            const quint32 tc = quint32(c) / tileSize;
+            const quint32 tr = quint32(r) / tileSize;
+            if (!tile || tc != tileColumn || tr != tileRow) {
+                tileColumn = tc;
+                tileRow = tr;
+                tileRead = d->tileCache.lookup(quint32(index), file, tc, tr, tile);
+            }
+            CellSample sample;
+            if (tileRead && sampleOfTile(*tile, quint32(c), quint32(r), sample) && sample.hasColour)
+                image.setPixel(radius + dc, radius + dr, qRgb(sample.red, sample.green, sample.blue));
+        }
+    }
+    return true;
+}
+
+QImage BasicProject::lensPicture(quint32 scanId, qint32 column, qint32 row)
+{
+    constexpr int radius = 25;
+    QImage image(2 * radius + 1, 2 * radius + 1, QImage::Format_RGB888);
+    image.fill(Qt::white);
+    paintLensPicture(scanId, column, row, radius, image);
+    return image;
+}
+
+bool BasicProject::pointCloud(quint32 scanId, quint32 step, std::vector<float>& xyz)
+{
+    const auto file = scanFileOf(scanId);
+    return file && file->extractPointCloud(step, xyz);
+}
+
+bool BasicProject::isViewOpen(quint32 scanId, ViewKind kind) const
+{
+    const ScanEntry* entry = d->entry(scanId);
+    return entry && kind >= PlanarView && kind <= PointCloudView && entry->viewOpen[std::size_t(kind - 1)];
+}
+
+void BasicProject::setViewOpen(quint32 scanId, ViewKind kind, bool open)
+{
+    ScanEntry* entry = d->entry(scanId);
+    if (!entry || kind < PlanarView || kind > PointCloudView || entry->viewOpen[std::size_t(kind - 1)] == open)
+        return;
+    entry->viewOpen[std::size_t(kind - 1)] = open;
+    d->model->scanViewsChanged(scanId);
+}
+
+bool BasicProject::isScanModified(quint32 scanId) const
+{
+    const ScanEntry* entry = d->entry(scanId);
+    return entry && entry->modified;
+}
+
+void BasicProject::setScanModified(quint32 scanId, bool modified)
+{
+    if (ScanEntry* entry = d->entry(scanId)) {
+        entry->modified = modified;
+        announceUnsavedChanges();
+    }
+}
+
+bool BasicProject::isModified() const
+{
+    return d->modified;
+}
+
+void BasicProject::setModified(bool modified)
+{
+    d->modified = modified && d->open;
+    announceUnsavedChanges();
+}
+
+bool BasicProject::hasUnsavedChanges() const
+{
+    return d->modified || std::any_of(d->scans.begin(), d->scans.end(), [](const ScanEntry& e) { return e.modified; });
+}
+
+void BasicProject::announceUnsavedChanges()
+{
+    const bool unsaved = hasUnsavedChanges();
+    if (unsaved != d->unsavedAnnounced) {
+        d->unsavedAnnounced = unsaved;
+        Q_EMIT unsavedChangesChanged(unsaved);
+    }
+}
+
+void BasicProject::forgetScans(const QList<quint32>& scanIds)
+{
+    for (const quint32 id : scanIds) {
+        d->unreadable.erase(id);
+        d->scans.erase(std::remove_if(d->scans.begin(), d->scans.end(), [id](const ScanEntry& e) { return e.id == id; }),
+                       d->scans.end());
+    }
+    // The cache names its scan by index, and indices behind a removed scan have moved.
+    d->tileCache.clear();
+    announceUnsavedChanges();
+}
+
+} // namespace TVX::CORE

@@ -1,0 +1,147 @@
+#include "testregistry.h"
+
+#include "annotations/sceneitemstablemodel.h"
+#include "annotations/tvxsrectangle.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <limits>
+
+using namespace TVX::CORE;
+
+namespace {
+
+// A model of `count` rectangle records whose common block numbers are 100, 101, ...
+void fill(SceneItemsTableModel& model, int count)
+{
+    for (int i = 0; i < count; ++i)
+        model.addItem(std::make_shared<TVXSRectangle>(QRectF(i, i, 1, 1), quint32(100 + i)));
+}
+
+QList<quint32> numbers(const SceneItemsTableModel& model)
+{
+    QList<quint32> result;
+    for (const TVXSceneItemPtr& item : model.items())
+        result << item->data().number;
+    return result;
+}
+
+} // namespace
+
+class SceneItemsTableModelTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void display_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<int>("column");
+        QTest::addColumn<int>("role");
+        QTest::addColumn<QVariant>("expected");
+
+        // The records' own values never show; the texts are fixed.
+        QTest::newRow("first row number") << 0 << 0 << int(Qt::DisplayRole) << QVariant(QStringLiteral("0"));
+        QTest::newRow("second row number") << 1 << 0 << int(Qt::DisplayRole) << QVariant(QStringLiteral("1"));
+        QTest::newRow("type column") << 0 << 1 << int(Qt::DisplayRole) << QVariant(QStringLiteral("object type"));
+        QTest::newRow("name column") << 1 << 2 << int(Qt::DisplayRole) << QVariant(QStringLiteral("object name"));
+        QTest::newRow("other role") << 1 << 0 << int(Qt::EditRole) << QVariant();
+        QTest::newRow("tool tip role") << 0 << 1 << int(Qt::ToolTipRole) << QVariant();
+    }
+
+    void display()
+    {
+        QFETCH(int, row);
+        QFETCH(int, column);
+        QFETCH(int, role);
+        QFETCH(QVariant, expected);
+
+        SceneItemsTableModel model;
+        fill(model, 2);
+        QCOMPARE(model.rowCount(), 2);
+        QCOMPARE(model.columnCount(), 3);
+        QCOMPARE(model.data(model.index(row, column), role), expected);
+    }
+
+    void invalidIndexesShowNothing()
+    {
+        SceneItemsTableModel model;
+        fill(model, 2);
+        QVERIFY(!model.data(QModelIndex()).isValid());
+        QVERIFY(!model.data(model.index(2, 0)).isValid());
+        QVERIFY(!model.data(model.index(0, 3)).isValid());
+        QVERIFY(!model.item(2));
+        QVERIFY(!model.item(-1));
+        QCOMPARE(model.item(1)->data().number, 101u);
+    }
+
+    void addItemAnnouncesTheNewRow()
+    {
+        SceneItemsTableModel model;
+        fill(model, 2);
+        QSignalSpy aboutToInsert(&model, &QAbstractItemModel::rowsAboutToBeInserted);
+        QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+        fill(model, 1);
+        QCOMPARE(aboutToInsert.count(), 1);
+        QCOMPARE(inserted.count(), 1);
+        QCOMPARE(inserted.at(0).at(1).toInt(), 2);
+        QCOMPARE(inserted.at(0).at(2).toInt(), 2);
+        QCOMPARE(model.rowCount(), 3);
+    }
+
+    void removeRows_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<QList<quint32>>("remaining"); // of the five numbered 100 to 104
+        QTest::addColumn<int>("first");                 // announced range; -1: no announcement
+        QTest::addColumn<int>("last");
+
+        QTest::newRow("one in the middle") << 2 << 1 << QList<quint32>{100, 101, 103, 104} << 2 << 2;
+        QTest::newRow("two from the start") << 0 << 2 << QList<quint32>{102, 103, 104} << 0 << 1;
+        QTest::newRow("all") << 0 << 5 << QList<quint32>{} << 0 << 4;
+        QTest::newRow("last") << 4 << 1 << QList<quint32>{100, 101, 102, 103} << 4 << 4;
+        // Out-of-range requests are cut to the rows there are, and never fail.
+        QTest::newRow("running past the end") << 3 << 10 << QList<quint32>{100, 101, 102} << 3 << 4;
+        QTest::newRow("starting before the first row") << -2 << 3 << QList<quint32>{101, 102, 103, 104} << 0 << 0;
+        QTest::newRow("starting past the end") << 5 << 1 << QList<quint32>{100, 101, 102, 103, 104} << -1 << -1;
+        QTest::newRow("none") << 1 << 0 << QList<quint32>{100, 101, 102, 103, 104} << -1 << -1;
+        QTest::newRow("negative count") << 1 << -3 << QList<quint32>{100, 101, 102, 103, 104} << -1 << -1;
+        QTest::newRow("huge count") << 1 << std::numeric_limits<int>::max() << QList<quint32>{100} << 1 << 4;
+        QTest::newRow("huge row") << std::numeric_limits<int>::max() << 2 << QList<quint32>{100, 101, 102, 103, 104}
+                                  << -1 << -1;
+    }
+
+    void removeRows()
+    {
+        QFETCH(int, row);
+        QFETCH(int, count);
+        QFETCH(QList<quint32>, remaining);
+        QFETCH(int, first);
+        QFETCH(int, last);
+
+        SceneItemsTableModel model;
+        fill(model, 5);
+        QSignalSpy aboutToRemove(&model, &QAbstractItemModel::rowsAboutToBeRemoved);
+        QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
+
+        QVERIFY(model.removeRows(row, count));
+        QCOMPARE(numbers(model), remaining);
+        QCOMPARE(model.rowCount(), int(remaining.size()));
+        QCOMPARE(removed.count(), first < 0 ? 0 : 1);
+        QCOMPARE(aboutToRemove.count(), removed.count());
+        if (first >= 0) {
+            QCOMPARE(removed.at(0).at(0).toModelIndex(), QModelIndex());
+            QCOMPARE(removed.at(0).at(1).toInt(), first);
+            QCOMPARE(removed.at(0).at(2).toInt(), last);
+        }
+        // The row numbers follow the rows.
+        if (!remaining.isEmpty())
+            QCOMPARE(model.data(model.index(model.rowCount() - 1, 0)).toString(), QString::number(model.rowCount() - 1));
+    }
+};
+
+TVX_TEST(SceneItemsTableModelTest)
+
+#include "sceneitemstablemodeltest.moc"

@@ -1,0 +1,155 @@
+#include "testregistry.h"
+
+#include "annotations/tvxsreferencepoint.h"
+#include "annotations/tvxsreferencesphere.h"
+#include "scanfixture.h"
+
+#include <QTest>
+
+using namespace TVX::CORE;
+using namespace TVX::TEST;
+
+namespace {
+// One reference entry of `type`: `doubles` numbers counting up from `first`, a name, a flag and,
+// for points and spheres, a trailer with text "t", integers {4, 5} and one value in each map.
+void writeEntry(QDataStream& s, quint32 type, int doubles, double first, const QString& name)
+{
+    s << type;
+    for (int i = 0; i < doubles; ++i)
+        s << first + i;
+    s << name << true;
+    if (type == 1 || type == 2) {
+        s << QStringLiteral("t") << quint32(2) << qint32(4) << qint32(5);
+        s << quint32(1) << QStringLiteral("key") << qint32(8) << QVariant(QStringLiteral("v"));
+        s << quint32(1) << qint32(-3) << QVariant(1.5);
+    }
+}
+
+QByteArray section(qint32 count, const std::function<void(QDataStream&)>& entries, quint32 endTag = 0x15FFFF)
+{
+    return streamBytes([&](QDataStream& s) {
+        s << quint32(0x150000) << true << QStringLiteral("ETRS89") << count;
+        entries(s);
+        s << endTag;
+    });
+}
+} // namespace
+
+// Entry types of the reference information section and its list operations.
+class ReferenceInfoTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void entries_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<int>("result"); // 1 read, 0 false, -1 the read error
+        QTest::addColumn<QList<int>>("kinds");
+
+        // Each dropped entry is followed by a point: it is only read right when the dropped entry
+        // consumed exactly its bytes.
+        QTest::newRow("point and sphere") << section(2, [](QDataStream& s) {
+            writeEntry(s, 1, 10, 1.0, QStringLiteral("P1"));
+            writeEntry(s, 2, 10, 11.0, QStringLiteral("S1"));
+        }) << 1 << QList<int>{1, 2};
+        QTest::newRow("type 3: six and five doubles, name, flag; nothing built") << section(2, [](QDataStream& s) {
+            writeEntry(s, 3, 11, 1.0, QStringLiteral("old"));
+            writeEntry(s, 1, 10, 1.0, QStringLiteral("P1"));
+        }) << 1 << QList<int>{1};
+        QTest::newRow("type 4 likewise") << section(2, [](QDataStream& s) {
+            writeEntry(s, 4, 11, 1.0, QStringLiteral("old"));
+            writeEntry(s, 1, 10, 1.0, QStringLiteral("P1"));
+        }) << 1 << QList<int>{1};
+        QTest::newRow("other type: five doubles, name, flag") << section(2, [](QDataStream& s) {
+            writeEntry(s, 9, 5, 1.0, QStringLiteral("odd"));
+            writeEntry(s, 1, 10, 1.0, QStringLiteral("P1"));
+        }) << 1 << QList<int>{1};
+        QTest::newRow("negative count reads no entry") << section(-4, [](QDataStream&) {}) << 1 << QList<int>{};
+        const auto onePoint = [](QDataStream& s) { writeEntry(s, 1, 10, 1.0, QStringLiteral("P1")); };
+        QTest::newRow("wrong end tag") << section(1, onePoint, 0x16FFFF) << 0 << QList<int>{1};
+        QTest::newRow("count past the end") << section(0x7FFFFFFF, [](QDataStream&) {}) << 0 << QList<int>{};
+        // An odd name length corrupts the stream; the rest still lines up, so the end tag matches.
+        QTest::newRow("corrupt name") << streamBytes([](QDataStream& s) {
+            s << quint32(0x150000) << true << quint32(3) << qint32(0) << quint32(0x15FFFF);
+        }) << -1 << QList<int>{};
+    }
+
+    void entries()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(int, result);
+        QFETCH(QList<int>, kinds);
+
+        QBuffer buffer;
+        QDataStream stream;
+        openReadStream(buffer, stream, bytes);
+        TVXFileReferenceInfo info;
+        int outcome = 0;
+        try {
+            outcome = info.read(stream) ? 1 : 0;
+        } catch (const std::ios_base::failure& failure) {
+            QCOMPARE(QByteArray(failure.what()), QByteArray("file read error libs/core/src/fileio/tvxfilereferenceinfo, line 203"));
+            outcome = -1;
+        }
+        QCOMPARE(outcome, result);
+        QCOMPARE(info.objectCount(), kinds.size());
+        for (int i = 0; i < kinds.size(); ++i) {
+            const auto point = std::dynamic_pointer_cast<TVXSReferencePoint>(info.object(i));
+            QVERIFY(point);
+            QCOMPARE(int(point->kind()), kinds[i]);
+            // Ten numbers in file order: the first P1 counts 1..10, S1 11..20.
+            const double first = point->name() == QStringLiteral("S1") ? 11.0 : 1.0;
+            for (std::size_t v = 0; v < 10; ++v)
+                QCOMPARE(point->values()[v], first + double(v));
+            QVERIFY(point->flag());
+            QCOMPARE(point->data().text, QStringLiteral("t"));
+            QCOMPARE(point->data().integers, (QList<qint32>{4, 5}));
+            QCOMPARE(point->data().namedValues.value(QStringLiteral("key")),
+                     qMakePair(8, QVariant(QStringLiteral("v"))));
+            QCOMPARE(point->data().numberedValues.value(-3), QVariant(1.5));
+        }
+        if (result == 1) {
+            QCOMPARE(info.name, QStringLiteral("ETRS89"));
+            QVERIFY(info.flag);
+        }
+    }
+
+    void removeObjects_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<bool>("removed");
+        QTest::addColumn<QString>("left");
+
+        QTest::newRow("middle run") << 1 << 2 << true << QStringLiteral("ad");
+        QTest::newRow("up to the end") << 2 << 2 << true << QStringLiteral("ab");
+        QTest::newRow("all") << 0 << 4 << true << QString();
+        QTest::newRow("count 0") << 1 << 0 << false << QStringLiteral("abcd");
+        QTest::newRow("run past the end") << 3 << 2 << false << QStringLiteral("abcd");
+        QTest::newRow("start past the end") << 4 << 1 << false << QStringLiteral("abcd");
+        QTest::newRow("negative index") << -1 << 1 << false << QStringLiteral("abcd");
+    }
+
+    void removeObjects()
+    {
+        QFETCH(int, index);
+        QFETCH(int, count);
+        QFETCH(bool, removed);
+        QFETCH(QString, left);
+
+        TVXFileReferenceInfo info;
+        for (const char* name : {"a", "b", "c", "d"})
+            info.appendObject(std::make_shared<TVXSReferencePoint>(QLatin1String(name), TVXSReferencePoint::Values{}));
+        QCOMPARE(info.removeObjects(index, count), removed);
+        QString names;
+        for (int i = 0; i < info.objectCount(); ++i)
+            names += info.object(i)->name();
+        QCOMPARE(names, left);
+        QVERIFY(!info.object(info.objectCount()));
+        QVERIFY(!info.object(-1));
+    }
+};
+
+TVX_TEST(ReferenceInfoTest)
+#include "referenceinfotest.moc"

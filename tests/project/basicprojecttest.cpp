@@ -1,0 +1,711 @@
+#include "testregistry.h"
+
+#include "projectfixtures.h"
+
+#include "fileio/tvxfile.h"
+#include "project/basicproject.h"
+#include "project/filetreemodel.h"
+#include "project/referencepointstablemodel.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QImage>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <unistd.h>
+
+using namespace TVX::CORE;
+using namespace TVX::TEST;
+
+namespace {
+
+const char* const projectVariable = "TVX_TEST_OPEN_PROJECT";
+const char* const resultVariable = "TVX_TEST_OPEN_RESULT";
+
+const QString lockHeader = QStringLiteral(
+    "A lock file was found indicating that this directory is in use by another person or application.\n\n");
+
+QString lockMessage(const QString& directory, const QStringList& users)
+{
+    QString message = lockHeader;
+    for (const QString& user : users)
+        message += QStringLiteral("  user: %1\n  directory: %2\n  lockfile: tvxlock~\n").arg(user, directory);
+    return message;
+}
+
+struct Opened {
+    bool ok = false;
+    int code = -1;
+    QString message;
+};
+
+Opened openProject(const QString& path, const QString& user = QStringLiteral("tester"))
+{
+    Opened result;
+    result.ok = BasicProject::instance().openProject(path, user, result.code, result.message);
+    return result;
+}
+
+// A project directory with the three scans that typicalFields() lists and the project file
+// (format `formatVersion`) naming them.
+QString makeTypicalProject(const QTemporaryDir& dir, quint32 formatVersion = 3)
+{
+    QDir(dir.path()).mkpath(QStringLiteral("scans"));
+    for (const char* name : {"north", "süd", "east"})
+        writeTestScan(dir.filePath(QStringLiteral("scans/%1.tvx").arg(QString::fromUtf8(name))), TestScan());
+    ProjectFileFields fields = typicalFields();
+    fields.formatVersion = formatVersion;
+    fields.major = 2019;
+    fields.minor = 4;
+    fields.patch = 12;
+    const QString path = dir.filePath(QStringLiteral("site.tvxprj"));
+    writeBytes(path, build(fields));
+    return path;
+}
+
+// A flat project: the root folder holds one scan node per identifier, named n<id>.
+QByteArray flatProject(const QList<QByteArray>& listed, const QList<int>& nodeIds)
+{
+    ProjectFileFields fields;
+    fields.coordinateSystems = coordinateSystems({}, 0);
+    fields.scanList = scanList(listed);
+    fields.tree = folderRecord(true, "scans", nodeIds.size());
+    for (int id : nodeIds)
+        fields.tree += scanRecord(true, "n" + QByteArray::number(id), id);
+    return build(fields);
+}
+
+} // namespace
+
+class BasicProjectTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup()
+    {
+        int code = 0;
+        QString message;
+        QVERIFY2(BasicProject::instance().closeProject(code, message), qPrintable(message));
+    }
+
+    void newProjectTakesLock()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("tvx.prj"));
+        const Opened opened = openProject(path, QStringLiteral("anna"));
+        QVERIFY(opened.ok);
+        QCOMPARE(opened.code, 0);
+        QCOMPARE(opened.message, QString());
+        BasicProject& project = BasicProject::instance();
+        QVERIFY(!project.isReadOnly());
+        QVERIFY(project.ownsLock());
+        QCOMPARE(project.projectFilePath(), path);
+        QCOMPARE(readBytes(dir.filePath(QStringLiteral("tvxlock~"))), QByteArray("user:anna\n"));
+        QCOMPARE(describe(project.rootFolder()), QStringLiteral("scans+()"));
+
+        const Opened again = openProject(path);
+        QVERIFY(!again.ok);
+        QCOMPARE(again.code, 1);
+
+        int code = -1;
+        QString message;
+        QVERIFY(project.closeProject(code, message));
+        QCOMPARE(code, 0);
+        QVERIFY(!QFile::exists(dir.filePath(QStringLiteral("tvxlock~"))));
+        QVERIFY(!QFile::exists(path)); // opening and closing write no project file
+        QVERIFY(!project.isOpen());
+    }
+
+    void lockOfOthersIsReported_data()
+    {
+        QTest::addColumn<QByteArray>("lock");
+        QTest::addColumn<QStringList>("users");
+        QTest::newRow("one holder") << QByteArray("user:anna\n") << QStringList{QStringLiteral("anna")};
+        QTest::newRow("two holders in file order")
+            << QByteArray("user:zora\nuser:anna\n") << QStringList{QStringLiteral("zora"), QStringLiteral("anna")};
+        QTest::newRow("other letter case ignored")
+            << QByteArray("User:carl\nuser:dora\nUSER:emil\n") << QStringList{QStringLiteral("dora")};
+        QTest::newRow("other lines ignored") << QByteArray("host:pc7\n\nuser:fay\npid:12\n")
+                                             << QStringList{QStringLiteral("fay")};
+        QTest::newRow("last line without line feed") << QByteArray("user:gus") << QStringList{QStringLiteral("gus")};
+        QTest::newRow("empty lock file") << QByteArray() << QStringList();
+        QTest::newRow("name cut to 1024 characters")
+            << QByteArray("user:") + QByteArray(1500, 'x') + "\n" << QStringList{QString(1024, QLatin1Char('x'))};
+        QTest::newRow("empty name") << QByteArray("user:\n") << QStringList{QString()};
+    }
+
+    void lockOfOthersIsReported()
+    {
+        QFETCH(QByteArray, lock);
+        QFETCH(QStringList, users);
+        QTemporaryDir dir;
+        const QString path = makeTypicalProject(dir);
+        const QString lockPath = dir.filePath(QStringLiteral("tvxlock~"));
+        QVERIFY(writeBytes(lockPath, lock));
+        const QByteArray projectBytes = readBytes(path);
+
+        const Opened opened = openProject(path);
+        QVERIFY(!opened.ok);
+        QCOMPARE(opened.code, 3);
+        QCOMPARE(opened.message, lockMessage(dir.path(), users));
+        QVERIFY(!BasicProject::instance().isOpen());
+        QCOMPARE(readBytes(lockPath), lock);
+        QCOMPARE(readBytes(path), projectBytes);
+    }
+
+    void unreadableLockGivesTheMessageAlone()
+    {
+        QTemporaryDir dir;
+        // A directory where the lock file should be: it exists but cannot be read.
+        QVERIFY(QDir(dir.path()).mkpath(QStringLiteral("tvxlock~/inside")));
+        const Opened opened = openProject(dir.filePath(QStringLiteral("tvx.prj")));
+        QVERIFY(!opened.ok);
+        QCOMPARE(opened.code, 3);
+        QCOMPARE(opened.message, lockHeader);
+    }
+
+    void readOnlyWhenLockCannotBeCreated()
+    {
+        QTemporaryDir dir;
+        const QString path = makeTypicalProject(dir);
+        // A link into a folder that does not exist: no lock file exists, yet none can be created
+        // there (whatever the user's rights, root included).
+        const QString lockPath = dir.filePath(QStringLiteral("tvxlock~"));
+        QVERIFY(QFile::link(dir.filePath(QStringLiteral("missing/lock")), lockPath));
+
+        const Opened opened = openProject(path);
+        QVERIFY2(opened.ok, qPrintable(opened.message));
+        BasicProject& project = BasicProject::instance();
+        QVERIFY(project.isReadOnly());
+        QVERIFY(!project.ownsLock());
+        QVERIFY(!project.treeModel()->isEditable());
+        QCOMPARE(project.scanCount(), 3);
+
+        int code = -1;
+        QString message;
+        QVERIFY(project.closeProject(code, message));
+        QCOMPARE(code, 0);
+        QVERIFY(QFileInfo(lockPath).isSymLink());
+    }
+
+    void closingKeepsForeignLocks_data()
+    {
+        QTest::addColumn<QString>("change");
+        QTest::addColumn<int>("code");
+        QTest::newRow("lock taken over by somebody else") << QStringLiteral("taken over") << 8;
+        // A non-empty directory cannot be removed as a file, not even by root.
+        QTest::newRow("lock cannot be removed") << QStringLiteral("unremovable") << 5;
+    }
+
+    void closingKeepsForeignLocks()
+    {
+        QFETCH(QString, change);
+        QFETCH(int, code);
+        QTemporaryDir dir;
+        QVERIFY(openProject(dir.filePath(QStringLiteral("tvx.prj"))).ok);
+        const QString lockPath = dir.filePath(QStringLiteral("tvxlock~"));
+        if (change == QLatin1String("taken over")) {
+            QVERIFY(writeBytes(lockPath, "user:intruder\n"));
+        } else {
+            QVERIFY(QFile::remove(lockPath));
+            QVERIFY(QDir(dir.path()).mkpath(QStringLiteral("tvxlock~/inside")));
+        }
+
+        BasicProject& project = BasicProject::instance();
+        int closeCode = -1;
+        QString message;
+        QVERIFY(!project.closeProject(closeCode, message));
+        QCOMPARE(closeCode, code);
+        QVERIFY(!message.isEmpty());
+        QVERIFY(project.isOpen());
+        QVERIFY(QFileInfo::exists(lockPath));
+
+        // Once the other holder has closed (or the obstacle is gone) the project closes; cleanup()
+        // checks that.
+        if (change == QLatin1String("taken over"))
+            QVERIFY(QFile::remove(lockPath));
+        else
+            QVERIFY(QDir(lockPath).removeRecursively());
+    }
+
+    void projectFileFormats_data()
+    {
+        QTest::addColumn<quint32>("formatVersion");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<int>("coordinateSystems");
+        QTest::newRow("format 1") << 1u << 9 << 0;
+        QTest::newRow("format 2") << 2u << 9 << 2;
+        QTest::newRow("format 3") << 3u << 0 << 2;
+        QTest::newRow("format 4") << 4u << 7 << 0;
+    }
+
+    void projectFileFormats()
+    {
+        QFETCH(quint32, formatVersion);
+        QFETCH(int, code);
+        QFETCH(int, coordinateSystems);
+        QTemporaryDir dir;
+        const QString path = makeTypicalProject(dir, formatVersion);
+        const QByteArray bytes = readBytes(path);
+
+        const Opened opened = openProject(path);
+        QCOMPARE(opened.code, code);
+        BasicProject& project = BasicProject::instance();
+        if (code == 7) {
+            QVERIFY(!opened.ok);
+            QCOMPARE(opened.message,
+                     QStringLiteral("An error occured reading the project file %1.\n\nIt was written with Tarvenix "
+                                    "version: 2019.4.12 using project format version: 4. If this version is newer "
+                                    "than the currently used version, you need to upgrade your Tarvenix Software "
+                                    "Suite.\n")
+                         .arg(path));
+            QVERIFY(!project.isOpen());
+            QVERIFY(!QFile::exists(dir.filePath(QStringLiteral("tvxlock~"))));
+            QCOMPARE(readBytes(path), bytes);
+            return;
+        }
+        QVERIFY(opened.ok);
+        if (code == 9) {
+            QCOMPARE(opened.message,
+                     QStringLiteral("Warning: Project file with was written with an older Tarvenix version "
+                                    "(2019.4.12) using project format version: %1. If you save this project again, "
+                                    "it can be re-opened only with applications supporting the new project format.\n")
+                         .arg(formatVersion));
+        } else {
+            QCOMPARE(opened.message, QString());
+        }
+        QCOMPARE(int(project.coordinateSystems().size()), coordinateSystems);
+        QCOMPARE(project.origin()[2], 310.0);
+        QCOMPARE(project.scanCount(), 3);
+        QCOMPARE(describe(project.rootFolder()), QStringLiteral("scans+(Facade+(north#0+) süd#1+ east#2-)"));
+        QCOMPARE(project.scanName(1), QStringLiteral("süd"));
+        QCOMPARE(project.scanRelativePath(1), QStringLiteral("scans/süd.tvx"));
+        QCOMPARE(QFileInfo(project.scanFileOf(2)->path()).fileName(), QStringLiteral("east.tvx"));
+        QVERIFY(!project.scanFile(project.scanCount()));
+        QCOMPARE(project.enabledScans(), QList<quint32>({0, 1}));
+        QVERIFY(!project.hasUnsavedChanges());
+        QCOMPARE(readBytes(path), bytes);
+    }
+
+    void damagedProjectFileIsRefused_data()
+    {
+        QTest::addColumn<int>("keptBytes");
+        QTest::newRow("truncated in the header") << 10;
+        QTest::newRow("truncated in the scan list") << 250;
+        QTest::newRow("last byte missing") << -1;
+    }
+
+    void damagedProjectFileIsRefused()
+    {
+        QFETCH(int, keptBytes);
+        QTemporaryDir dir;
+        const QString path = makeTypicalProject(dir);
+        QByteArray bytes = readBytes(path);
+        bytes.truncate(keptBytes < 0 ? bytes.size() + keptBytes : keptBytes);
+        QVERIFY(writeBytes(path, bytes));
+
+        const Opened opened = openProject(path);
+        QVERIFY(!opened.ok);
+        QCOMPARE(opened.code, 7);
+        QCOMPARE(opened.message, QStringLiteral("An error occured reading the project file %1.\n\n").arg(path));
+        QVERIFY(!QFile::exists(dir.filePath(QStringLiteral("tvxlock~"))));
+        QCOMPARE(readBytes(path), bytes);
+        QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList{QStringLiteral("site.tvxprj")});
+    }
+
+    // The child process of secondProcessFindsLock.
+    void openProjectNamedInEnvironment()
+    {
+        if (qEnvironmentVariableIsEmpty(projectVariable))
+            QSKIP("runs only as the second process of secondProcessFindsLock");
+        const Opened opened = openProject(qEnvironmentVariable(projectVariable), QStringLiteral("second"));
+        QVERIFY(writeBytes(qEnvironmentVariable(resultVariable),
+                           QByteArray::number(opened.code) + '\n' + opened.message.toUtf8()));
+    }
+
+    void secondProcessFindsLock()
+    {
+        QTemporaryDir dir;
+        const QString path = makeTypicalProject(dir);
+        QVERIFY(openProject(path, QStringLiteral("first")).ok);
+
+        QProcess second;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QString::fromLatin1(projectVariable), path);
+        environment.insert(QString::fromLatin1(resultVariable), dir.filePath(QStringLiteral("result")));
+        second.setProcessEnvironment(environment);
+        second.start(QCoreApplication::applicationFilePath(),
+                     {QStringLiteral("BasicProjectTest"), QStringLiteral("openProjectNamedInEnvironment")});
+        QVERIFY(second.waitForFinished(60000));
+        QCOMPARE(second.exitCode(), 0);
+        QCOMPARE(QString::fromUtf8(readBytes(dir.filePath(QStringLiteral("result")))),
+                 QStringLiteral("3\n") + lockMessage(dir.path(), {QStringLiteral("first")}));
+        QVERIFY(BasicProject::instance().isOpen());
+        QCOMPARE(readBytes(dir.filePath(QStringLiteral("tvxlock~"))), QByteArray("user:first\n"));
+    }
+
+    void treeIsReconciledWithScanList_data()
+    {
+        QTest::addColumn<QList<QByteArray>>("listed");
+        QTest::addColumn<QList<int>>("nodeIds");
+        QTest::addColumn<QString>("tree");
+        QTest::newRow("consistent") << QList<QByteArray>{"scans/a.tvx", "scans/b.tvx"} << QList<int>{1, 0}
+                                    << QStringLiteral("scans+(n1#1+ n0#0+)");
+        QTest::newRow("node beyond the list") << QList<QByteArray>{"scans/a.tvx"} << QList<int>{0, 7}
+                                              << QStringLiteral("scans+(n0#0+)");
+        QTest::newRow("node of an empty entry") << QList<QByteArray>{"", "scans/b.tvx"} << QList<int>{0, 1}
+                                                << QStringLiteral("scans+(n1#1+)");
+        QTest::newRow("two nodes of one scan") << QList<QByteArray>{"scans/a.tvx"} << QList<int>{0, 0}
+                                               << QStringLiteral("scans+(n0#0+)");
+        // A listed scan without a node gets one, named after its file.
+        QTest::newRow("listed scan without node") << QList<QByteArray>{"scans/a.tvx", "scans/b.tvx"}
+                                                  << QList<int>{1} << QStringLiteral("scans+(n1#1+ a#0+)");
+    }
+
+    void treeIsReconciledWithScanList()
+    {
+        QFETCH(QList<QByteArray>, listed);
+        QFETCH(QList<int>, nodeIds);
+        QFETCH(QString, tree);
+        QTemporaryDir dir;
+        QDir(dir.path()).mkpath(QStringLiteral("scans"));
+        for (const char* name : {"a", "b"})
+            QVERIFY(writeTestScan(dir.filePath(QStringLiteral("scans/%1.tvx").arg(QLatin1String(name))), TestScan()));
+        const QString path = dir.filePath(QStringLiteral("tvx.prj"));
+        QVERIFY(writeBytes(path, flatProject(listed, nodeIds)));
+
+        QVERIFY(openProject(path).ok);
+        BasicProject& project = BasicProject::instance();
+        QCOMPARE(describe(project.rootFolder()), tree);
+        // All nodes are checked: the enabled scans are the surviving nodes in tree order.
+        QList<quint32> inTreeOrder;
+        for (int i = 0; i < project.rootFolder()->childCount(); ++i)
+            inTreeOrder << quint32(std::static_pointer_cast<ProjectItemScan>(project.rootFolder()->child(i))->scanId());
+        QCOMPARE(project.enabledScans(), inTreeOrder);
+    }
+
+    void newScansTakeSmallestFreeIdentifier_data()
+    {
+        QTest::addColumn<QList<QByteArray>>("listed");
+        QTest::addColumn<QList<int>>("nodeIds");
+        QTest::addColumn<int>("removedId"); // removed through the tree model first; -1 for none
+        QTest::addColumn<quint32>("expected");
+        QTest::newRow("empty project") << QList<QByteArray>{} << QList<int>{} << -1 << 0u;
+        QTest::newRow("after two scans") << QList<QByteArray>{"scans/a.tvx", "scans/b.tvx"} << QList<int>{0, 1}
+                                         << -1 << 2u;
+        QTest::newRow("gap of an empty entry") << QList<QByteArray>{"scans/a.tvx", "", "scans/c.tvx"}
+                                               << QList<int>{0, 2} << -1 << 1u;
+        QTest::newRow("gap of a removed scan") << QList<QByteArray>{"scans/a.tvx", "scans/b.tvx", "scans/c.tvx"}
+                                               << QList<int>{0, 1, 2} << 1 << 1u;
+        // A scan whose file is missing keeps its identifier.
+        QTest::newRow("unreadable scan keeps its identifier")
+            << QList<QByteArray>{"scans/gone.tvx", "scans/b.tvx"} << QList<int>{0, 1} << -1 << 2u;
+    }
+
+    void newScansTakeSmallestFreeIdentifier()
+    {
+        QFETCH(QList<QByteArray>, listed);
+        QFETCH(QList<int>, nodeIds);
+        QFETCH(int, removedId);
+        QFETCH(quint32, expected);
+        QTemporaryDir dir;
+        QDir(dir.path()).mkpath(QStringLiteral("scans"));
+        for (const char* name : {"a", "b", "c", "new"})
+            QVERIFY(writeTestScan(dir.filePath(QStringLiteral("scans/%1.tvx").arg(QLatin1String(name))), TestScan()));
+        const QString path = dir.filePath(QStringLiteral("tvx.prj"));
+        QVERIFY(writeBytes(path, flatProject(listed, nodeIds)));
+        QVERIFY(openProject(path).ok);
+        BasicProject& project = BasicProject::instance();
+        FileTreeModel& model = *project.treeModel();
+        if (removedId >= 0) {
+            const QModelIndex removed = model.indexOfScan(quint32(removedId));
+            QVERIFY(model.removeRows(removed.row(), 1, removed.parent()));
+            QVERIFY(!project.scanFileOf(quint32(removedId)));
+        }
+
+        QCOMPARE(project.addScan(QStringLiteral("scans/new.tvx")), qint64(expected));
+        QCOMPARE(project.scanName(expected), QStringLiteral("new"));
+        QVERIFY(project.scanFileOf(expected));
+        QVERIFY(project.isModified());
+
+        // Saved and opened again, every scan keeps its identifier and path.
+        project.saveProject();
+        const QStringList before = [&] {
+            QStringList paths;
+            for (quint32 id = 0; id < 4; ++id)
+                paths << project.scanRelativePath(id);
+            return paths;
+        }();
+        const QString tree = describe(project.rootFolder());
+        int code = 0;
+        QString message;
+        QVERIFY(project.closeProject(code, message));
+        QVERIFY(openProject(path).ok);
+        QCOMPARE(describe(project.rootFolder()), tree);
+        for (quint32 id = 0; id < 4; ++id)
+            QCOMPARE(project.scanRelativePath(id), before[int(id)]);
+        QCOMPARE(project.scanRelativePath(expected), QStringLiteral("scans/new.tvx"));
+    }
+
+    void addingUnreadableScanFails()
+    {
+        QTemporaryDir dir;
+        QVERIFY(openProject(dir.filePath(QStringLiteral("tvx.prj"))).ok);
+        QVERIFY(writeBytes(dir.filePath(QStringLiteral("junk.tvx")), "not a scan"));
+        BasicProject& project = BasicProject::instance();
+        QCOMPARE(project.addScan(dir.filePath(QStringLiteral("junk.tvx"))), qint64(-1));
+        QCOMPARE(project.addScan(dir.filePath(QStringLiteral("missing.tvx"))), qint64(-1));
+        QCOMPARE(project.scanCount(), 0);
+        QCOMPARE(describe(project.rootFolder()), QStringLiteral("scans+()"));
+        QVERIFY(!project.hasUnsavedChanges());
+    }
+
+    void savedChangesSurviveReopening()
+    {
+        QTemporaryDir dir;
+        const QString path = makeTypicalProject(dir, 1);
+        QVERIFY(openProject(path).ok);
+        BasicProject& project = BasicProject::instance();
+        QSignalSpy unsaved(&project, &BasicProject::unsavedChangesChanged);
+        FileTreeModel& model = *project.treeModel();
+        const QModelIndex root = model.index(0, 0);
+        const QModelIndex facade = model.index(0, 0, root);
+        QVERIFY(model.setData(facade, QStringLiteral("Front"), Qt::EditRole));
+        QCOMPARE(unsaved.count(), 1);
+        QCOMPARE(unsaved.at(0).at(0).toBool(), true);
+        QVERIFY(model.addFolder(root, QStringLiteral("Empty")).isValid());
+        QVERIFY(model.setData(model.indexOfScan(1), Qt::Unchecked, Qt::CheckStateRole));
+        project.setOrigin({7.0, 8.0, 9.0});
+        project.setCoordinateSystems({{QStringLiteral("Local"), {1, 2, 3, 4, 5, 6, 7}}});
+        project.setCurrentCoordinateSystem(0);
+        QCOMPARE(unsaved.count(), 1);
+
+        project.saveProject();
+        QCOMPARE(unsaved.count(), 2);
+        QCOMPARE(unsaved.at(1).at(0).toBool(), false);
+        QVERIFY(!QFile::exists(path + QStringLiteral(".tmp")));
+        int code = 0;
+        QString message;
+        QVERIFY(project.closeProject(code, message));
+
+        // Saving wrote the newest format, so opening it gives no warning any more.
+        const Opened opened = openProject(path);
+        QCOMPARE(opened.code, 0);
+        QCOMPARE(describe(project.rootFolder()),
+                 QStringLiteral("scans+(Front+(north#0+) Empty+() süd#1- east#2-)"));
+        QCOMPARE(project.origin(), (std::array<double, 3>{7.0, 8.0, 9.0}));
+        QCOMPARE(int(project.coordinateSystems().size()), 1);
+        QCOMPARE(project.coordinateSystems()[0].values[6], 7.0);
+        QCOMPARE(project.enabledScans(), QList<quint32>({0}));
+    }
+
+    void scanModificationCountsAsUnsaved()
+    {
+        QTemporaryDir dir;
+        QVERIFY(openProject(makeTypicalProject(dir)).ok);
+        BasicProject& project = BasicProject::instance();
+        QSignalSpy unsaved(&project, &BasicProject::unsavedChangesChanged);
+        project.setScanModified(2, true);
+        project.setScanModified(1, true);
+        QVERIFY(project.hasUnsavedChanges());
+        QVERIFY(!project.isModified());
+        project.setScanModified(2, false);
+        QVERIFY(project.hasUnsavedChanges());
+        project.setScanModified(1, false);
+        QVERIFY(!project.hasUnsavedChanges());
+        QCOMPARE(unsaved.count(), 2);
+        QCOMPARE(unsaved.at(0).at(0).toBool(), true);
+        QCOMPARE(unsaved.at(1).at(0).toBool(), false);
+    }
+
+    void poseComesFromTransformationRows_data()
+    {
+        QTest::addColumn<QList<double>>("matrix"); // sixteen numbers, row by row
+        QTest::addColumn<QList<double>>("rotation");
+        QTest::addColumn<QList<double>>("translation");
+        QTest::newRow("identity") << QList<double>{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}
+                                  << QList<double>{1, 0, 0, 0, 1, 0, 0, 0, 1} << QList<double>{0, 0, 0};
+        QTest::newRow("translated") << QList<double>{1, 0, 0, 4, 0, 1, 0, -6.5, 0, 0, 1, 1.25, 0, 0, 0, 1}
+                                    << QList<double>{1, 0, 0, 0, 1, 0, 0, 0, 1} << QList<double>{4, -6.5, 1.25};
+        // Turned by 30° about z and slightly tilted; the last row is not part of the pose.
+        QTest::newRow("turned and tilted")
+            << QList<double>{0.866, -0.5, 0.01, 10, 0.5, 0.866, 0.02, 20, -0.01, -0.02, 0.999, 1.5, 9, 9, 9, 9}
+            << QList<double>{0.866, -0.5, 0.01, 0.5, 0.866, 0.02, -0.01, -0.02, 0.999} << QList<double>{10, 20, 1.5};
+    }
+
+    void poseComesFromTransformationRows()
+    {
+        QFETCH(QList<double>, matrix);
+        QFETCH(QList<double>, rotation);
+        QFETCH(QList<double>, translation);
+        QTemporaryDir dir;
+        TestScan scan;
+        std::copy(matrix.begin(), matrix.end(), scan.transformation.begin());
+        QVERIFY(writeTestScan(dir.filePath(QStringLiteral("posed.tvx")), scan));
+        QVERIFY(openProject(dir.filePath(QStringLiteral("tvx.prj"))).ok);
+        BasicProject& project = BasicProject::instance();
+        const qint64 id = project.addScan(QStringLiteral("posed.tvx"));
+        QCOMPARE(id, qint64(0));
+
+        ScanPose pose;
+        QVERIFY(project.scanPose(0, pose));
+        QCOMPARE(QList<double>(pose.rotation.begin(), pose.rotation.end()), rotation);
+        QCOMPARE(pose.translation, Vector3d(translation[0], translation[1], translation[2]));
+        QVERIFY(!project.scanPose(1, pose));
+    }
+
+    void cellSampleReadsThroughTiles_data()
+    {
+        QTest::addColumn<bool>("colour");
+        QTest::addColumn<bool>("intensity");
+        QTest::addColumn<int>("column");
+        QTest::addColumn<int>("row");
+        QTest::addColumn<bool>("inside");
+        QTest::newRow("top left, colour") << true << true << 0 << 0 << true;
+        QTest::newRow("bottom right, colour") << true << true << 39 << 29 << true;
+        QTest::newRow("in a middle tile, colour") << true << true << 13 << 17 << true;
+        QTest::newRow("grey from intensity") << false << true << 21 << 4 << true;
+        QTest::newRow("neither channel") << false << false << 21 << 4 << true;
+        QTest::newRow("column past the grid") << true << true << 40 << 0 << false;
+        QTest::newRow("negative row") << true << true << 3 << -1 << false;
+    }
+
+    void cellSampleReadsThroughTiles()
+    {
+        QFETCH(bool, colour);
+        QFETCH(bool, intensity);
+        QFETCH(int, column);
+        QFETCH(int, row);
+        QFETCH(bool, inside);
+        QTemporaryDir dir;
+        TestScan scan;
+        scan.colour = colour;
+        scan.intensity = intensity;
+        QVERIFY(writeTestScan(dir.filePath(QStringLiteral("s.tvx")), scan));
+        QVERIFY(openProject(dir.filePath(QStringLiteral("tvx.prj"))).ok);
+        BasicProject& project = BasicProject::instance();
+        QCOMPARE(project.addScan(QStringLiteral("s.tvx")), qint64(0));
+
+        CellSample sample;
+        QCOMPARE(project.cellSample(0, column, row, sample), inside);
+        if (!inside)
+            return;
+        // 40 by 30 cells over 0..2π and −π/4..π/4: h = c·2π/39, v = (30 − r − 1)·(π/2)/29 − π/4;
+        // the test cells have no sub-cell offsets.
+        const TVXFileCell cell = testCell(quint32(column), quint32(row));
+        const double d = cell.distanceMm / 1000.0;
+        const double h = column * (2 * M_PI / 39);
+        const double v = (30 - row - 1) * (M_PI / 2 / 29) - M_PI / 4;
+        QCOMPARE(sample.distance, d);
+        QVERIFY(sample.valid);
+        QVERIFY(qAbs(sample.point.x - std::cos(h) * d * std::cos(v)) < 1e-9);
+        QVERIFY(qAbs(sample.point.y + std::sin(h) * d * std::cos(v)) < 1e-9);
+        QVERIFY(qAbs(sample.point.z - std::sin(v) * d) < 1e-9);
+        QCOMPARE(sample.hasColour, colour || intensity);
+        if (colour)
+            QCOMPARE(QColor(sample.red, sample.green, sample.blue), QColor(cell.red, cell.green, cell.blue));
+        else if (intensity)
+            QCOMPARE(QColor(sample.red, sample.green, sample.blue), QColor(cell.intensity, cell.intensity, cell.intensity));
+    }
+
+    void lensPicture_data()
+    {
+        QTest::addColumn<bool>("colour");
+        QTest::addColumn<bool>("intensity");
+        QTest::addColumn<QPoint>("centre");
+        QTest::addColumn<int>("paintedCells"); // out of 51 × 51
+        // At a corner the grid fills one quadrant: 26 × 26 cells including the centre's row and column.
+        QTest::newRow("top left corner") << true << true << QPoint(0, 0) << 26 * 26;
+        QTest::newRow("bottom right corner") << true << true << QPoint(39, 29) << 26 * 26;
+        QTest::newRow("top right corner, grey") << false << true << QPoint(39, 0) << 26 * 26;
+        // The whole 40 × 30 grid lies within 25 cells of (20, 15).
+        QTest::newRow("centre of the grid") << true << true << QPoint(20, 15) << 40 * 30;
+        QTest::newRow("far outside") << true << true << QPoint(-100, 500) << 0;
+        QTest::newRow("neither channel") << false << false << QPoint(5, 5) << 0;
+    }
+
+    void lensPicture()
+    {
+        QFETCH(bool, colour);
+        QFETCH(bool, intensity);
+        QFETCH(QPoint, centre);
+        QFETCH(int, paintedCells);
+        QTemporaryDir dir;
+        TestScan scan;
+        scan.colour = colour;
+        scan.intensity = intensity;
+        QVERIFY(writeTestScan(dir.filePath(QStringLiteral("s.tvx")), scan));
+        QVERIFY(openProject(dir.filePath(QStringLiteral("tvx.prj"))).ok);
+        BasicProject& project = BasicProject::instance();
+        QCOMPARE(project.addScan(QStringLiteral("s.tvx")), qint64(0));
+
+        const QImage image = project.lensPicture(0, centre.x(), centre.y());
+        QCOMPARE(image.size(), QSize(51, 51));
+        int painted = 0;
+        for (int y = 0; y < 51; ++y) {
+            for (int x = 0; x < 51; ++x) {
+                const int c = centre.x() + x - 25;
+                const int r = centre.y() + y - 25;
+                QRgb expected = qRgb(255, 255, 255);
+                if (c >= 0 && c < 40 && r >= 0 && r < 30 && (colour || intensity)) {
+                    const TVXFileCell cell = testCell(quint32(c), quint32(r));
+                    expected = colour ? qRgb(cell.red, cell.green, cell.blue)
+                                      : qRgb(cell.intensity, cell.intensity, cell.intensity);
+                    ++painted;
+                }
+                QVERIFY2(image.pixel(x, y) == expected, qPrintable(QStringLiteral("pixel %1, %2").arg(x).arg(y)));
+            }
+        }
+        QCOMPARE(painted, paintedCells);
+        QImage untouched = image;
+        QVERIFY(!project.paintLensPicture(1, 0, 0, 25, untouched));
+        QCOMPARE(untouched, image);
+    }
+
+    void referencePointsAreListed()
+    {
+        QTemporaryDir dir;
+        QVERIFY(writeTestScan(dir.filePath(QStringLiteral("s.tvx")), TestScan()));
+        QVERIFY(openProject(dir.filePath(QStringLiteral("tvx.prj"))).ok);
+        BasicProject& project = BasicProject::instance();
+        QCOMPARE(project.addScan(QStringLiteral("s.tvx")), qint64(0));
+        const auto model = project.referencePoints(0);
+        QVERIFY(model);
+        // The test scans hold one sphere "S1" at (1.25, −2.5, 0.75) with radius 0.0725.
+        QCOMPARE(model->rowCount(), 1);
+        QCOMPARE(model->index(0, ReferencePointsTableModel::NameColumn).data().toString(), QStringLiteral("S1"));
+        QCOMPARE(model->index(0, ReferencePointsTableModel::YColumn).data().toString(), QStringLiteral("-2.500"));
+        QCOMPARE(model->index(0, ReferencePointsTableModel::RadiusColumn).data(ReferencePointsTableModel::ValueRole)
+                     .toDouble(),
+                 0.0725);
+        QVERIFY(!project.referencePoints(1));
+    }
+
+    void viewFlagsReachTheTree()
+    {
+        QTemporaryDir dir;
+        QVERIFY(openProject(makeTypicalProject(dir)).ok);
+        BasicProject& project = BasicProject::instance();
+        FileTreeModel& model = *project.treeModel();
+        QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+        QSignalSpy relevant(&model, &FileTreeModel::relevantDataChanged);
+        project.setViewOpen(1, BasicProject::SphericalView, true);
+        project.setViewOpen(1, BasicProject::SphericalView, true); // no change, no signal
+        QVERIFY(project.isViewOpen(1, BasicProject::SphericalView));
+        QVERIFY(!project.isViewOpen(1, BasicProject::PlanarView));
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(changed.at(0).at(0).value<QModelIndex>(), model.indexOfScan(1).siblingAtColumn(1));
+        QCOMPARE(changed.at(0).at(1).value<QModelIndex>(), model.indexOfScan(1).siblingAtColumn(3));
+        // Open views are no content of the project file.
+        QCOMPARE(relevant.count(), 0);
+        QVERIFY(!project.hasUnsavedChanges());
+    }
+};
+
+TVX_TEST(BasicProjectTest)
+
+#include "basicprojecttest.moc"

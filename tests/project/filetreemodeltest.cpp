@@ -1,0 +1,398 @@
+#include "testregistry.h"
+
+#include "projectfixtures.h"
+
+#include "project/filetreemodel.h"
+
+#include <QAbstractItemModelTester>
+#include <QIcon>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <set>
+
+using namespace TVX::CORE;
+using namespace TVX::TEST;
+
+namespace {
+
+// scans( A( a1#10 ) B( B1( b#11 ) ) s#12 -t#13 )
+ProjectItemScanGroupPtr sampleHolder()
+{
+    const auto holder = ProjectItemScanGroup::create(QString());
+    const auto root = ProjectItemScanGroup::create(QStringLiteral("scans"));
+    holder->appendFolder(root);
+    const auto a = ProjectItemScanGroup::create(QStringLiteral("A"));
+    const auto b = ProjectItemScanGroup::create(QStringLiteral("B"));
+    const auto b1 = ProjectItemScanGroup::create(QStringLiteral("B1"));
+    root->appendScan(ProjectItemScan::create(QStringLiteral("s"), 12));
+    const auto t = ProjectItemScan::create(QStringLiteral("t"), 13);
+    t->setEnabled(false);
+    root->appendScan(t);
+    root->appendFolder(a);
+    root->appendFolder(b);
+    a->appendScan(ProjectItemScan::create(QStringLiteral("a1"), 10));
+    b->appendFolder(b1);
+    b1->appendScan(ProjectItemScan::create(QStringLiteral("b"), 11));
+    return holder;
+}
+
+// An index by the names along its path, e.g. {"scans", "B", "B1"}; the empty path is the
+// invalid index.
+QModelIndex indexAt(const FileTreeModel& model, const QStringList& names)
+{
+    QModelIndex index;
+    for (const QString& name : names) {
+        QModelIndex child;
+        for (int row = 0; row < model.rowCount(index) && !child.isValid(); ++row) {
+            if (model.index(row, 0, index).data().toString() == name)
+                child = model.index(row, 0, index);
+        }
+        if (!child.isValid())
+            return {};
+        index = child;
+    }
+    return index;
+}
+
+struct Fixture {
+    ProjectItemScanGroupPtr holder = sampleHolder();
+    FileTreeModel model;
+    QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::QtTest};
+
+    Fixture() { model.setRootHolder(holder); }
+    QString tree() const { return describe(holder->child(0)); }
+    QModelIndex at(const QStringList& names) const { return indexAt(model, names); }
+};
+
+QImage imageOf(const QVariant& icon)
+{
+    return icon.value<QIcon>().pixmap(16, 16).toImage();
+}
+
+} // namespace
+
+class FileTreeModelTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void rowsFollowTheTree()
+    {
+        Fixture f;
+        QCOMPARE(f.model.rowCount(), 1);
+        const QModelIndex root = f.model.index(0, 0);
+        QCOMPARE(root.data().toString(), QStringLiteral("scans"));
+        QVERIFY(!root.parent().isValid());
+        // Folders A and B before the scans s and t, although the scans were added first.
+        QCOMPARE(f.model.rowCount(root), 4);
+        const QStringList names{QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("s"), QStringLiteral("t")};
+        for (int row = 0; row < 4; ++row) {
+            const QModelIndex child = f.model.index(row, 0, root);
+            QCOMPARE(child.data().toString(), names[row]);
+            QCOMPARE(child.parent(), root);
+            QCOMPARE(child.data(FileTreeModel::ItemTypeRole).toUInt(), row < 2 ? 2u : 3u);
+        }
+        QCOMPARE(f.model.index(2, 0, root).data(FileTreeModel::ScanIdRole).toUInt(), 12u);
+        const QModelIndex b = f.at({QStringLiteral("scans"), QStringLiteral("B"), QStringLiteral("B1"), QStringLiteral("b")});
+        QCOMPARE(b.data(FileTreeModel::ScanIdRole).toUInt(), 11u);
+        QCOMPARE(f.model.indexOfScan(11), b);
+        QVERIFY(!f.model.indexOfScan(99).isValid());
+        QCOMPARE(f.model.columnCount(), 4);
+        QCOMPARE(f.model.headerData(0, Qt::Horizontal).toString(), QStringLiteral("Name"));
+
+        f.model.setRootHolder(nullptr);
+        QCOMPARE(f.model.rowCount(), 0);
+    }
+
+    void decorations()
+    {
+        Fixture f;
+        std::set<std::pair<quint32, int>> open{{12, 2}};
+        f.model.setViewStateProvider([&open](quint32 id, int kind) { return open.count({id, kind}) > 0; });
+        const QModelIndex s = f.model.indexOfScan(12);
+        const auto expect = [](const char* name) { return QIcon(QString::fromLatin1(name)).pixmap(16, 16).toImage(); };
+        QCOMPARE(imageOf(s.data(Qt::DecorationRole)), expect(":/icons/shared/tvx_doc_small_lib.ico"));
+        QCOMPARE(imageOf(s.siblingAtColumn(1).data(Qt::DecorationRole)), expect(":/icons/shared/planarview_inactive.png"));
+        QCOMPARE(imageOf(s.siblingAtColumn(2).data(Qt::DecorationRole)), expect(":/icons/shared/sphericalview_active.png"));
+        QCOMPARE(imageOf(s.siblingAtColumn(3).data(Qt::DecorationRole)),
+                 expect(":/icons/shared/pointcloudview_inactive.png"));
+        // Folders have no view icons and no check box.
+        const QModelIndex a = f.at({QStringLiteral("scans"), QStringLiteral("A")});
+        QVERIFY(!a.siblingAtColumn(1).data(Qt::DecorationRole).isValid());
+        QVERIFY(!a.data(Qt::CheckStateRole).isValid());
+
+        QSignalSpy changed(&f.model, &QAbstractItemModel::dataChanged);
+        QSignalSpy relevant(&f.model, &FileTreeModel::relevantDataChanged);
+        open = {{12, 1}};
+        f.model.scanViewsChanged(12);
+        QCOMPARE(imageOf(s.siblingAtColumn(1).data(Qt::DecorationRole)), expect(":/icons/shared/planarview_active.png"));
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(changed.at(0).at(0).value<QModelIndex>(), s.siblingAtColumn(1));
+        QCOMPARE(changed.at(0).at(1).value<QModelIndex>(), s.siblingAtColumn(3));
+        QCOMPARE(relevant.count(), 0);
+    }
+
+    void checkBoxes_data()
+    {
+        QTest::addColumn<quint32>("scanId");
+        QTest::addColumn<int>("state");
+        QTest::addColumn<bool>("accepted");
+        QTest::addColumn<int>("disabledSignals");
+        QTest::addColumn<int>("stateSignals");
+        QTest::newRow("clearing a checked scan") << 12u << int(Qt::Unchecked) << true << 1 << 1;
+        QTest::newRow("checking an unchecked scan") << 13u << int(Qt::Checked) << true << 0 << 1;
+        QTest::newRow("checking a checked scan") << 12u << int(Qt::Checked) << true << 0 << 0;
+        QTest::newRow("clearing a scan in a sub-folder") << 11u << int(Qt::Unchecked) << true << 1 << 1;
+    }
+
+    void checkBoxes()
+    {
+        QFETCH(quint32, scanId);
+        QFETCH(int, state);
+        QFETCH(bool, accepted);
+        QFETCH(int, disabledSignals);
+        QFETCH(int, stateSignals);
+        Fixture f;
+        QSignalSpy disabled(&f.model, &FileTreeModel::checkBoxScanDisabled);
+        QSignalSpy stateChanged(&f.model, &FileTreeModel::checkBoxStateChanged);
+        QSignalSpy relevant(&f.model, &FileTreeModel::relevantDataChanged);
+        QSignalSpy changed(&f.model, &QAbstractItemModel::dataChanged);
+        const QModelIndex scan = f.model.indexOfScan(scanId);
+        QVERIFY(f.model.flags(scan) & Qt::ItemIsUserCheckable);
+
+        QCOMPARE(f.model.setData(scan, state, Qt::CheckStateRole), accepted);
+        QCOMPARE(scan.data(Qt::CheckStateRole).toInt(), state);
+        QCOMPARE(f.model.item(scan)->isEnabled(), state == Qt::Checked);
+        QCOMPARE(disabled.count(), disabledSignals);
+        if (disabledSignals > 0)
+            QCOMPARE(disabled.at(0).at(0).toUInt(), scanId);
+        QCOMPARE(stateChanged.count(), stateSignals);
+        QCOMPARE(relevant.count(), stateSignals);
+        QCOMPARE(changed.count(), stateSignals);
+        if (stateSignals > 0)
+            QCOMPARE(changed.at(0).at(0).value<QModelIndex>(), scan);
+    }
+
+    void checkBoxesStillWorkReadOnly()
+    {
+        Fixture f;
+        f.model.setEditable(false);
+        QSignalSpy disabled(&f.model, &FileTreeModel::checkBoxScanDisabled);
+        QVERIFY(f.model.setData(f.model.indexOfScan(10), Qt::Unchecked, Qt::CheckStateRole));
+        QCOMPARE(disabled.count(), 1);
+        QCOMPARE(disabled.at(0).at(0).toUInt(), 10u);
+    }
+
+    void renaming_data()
+    {
+        QTest::addColumn<QStringList>("path");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("editable");
+        QTest::addColumn<bool>("accepted");
+        QTest::addColumn<QString>("tree");
+        const QString unchanged = QStringLiteral("scans+(A+(a1#10+) B+(B1+(b#11+)) s#12+ t#13-)");
+        QTest::newRow("folder") << QStringList{"scans", "B", "B1"} << QStringLiteral("  Level 1 ") << true << true
+                                << QStringLiteral("scans+(A+(a1#10+) B+(Level 1+(b#11+)) s#12+ t#13-)");
+        QTest::newRow("blank name") << QStringList{"scans", "A"} << QStringLiteral("  ") << true << false << unchanged;
+        QTest::newRow("root folder") << QStringList{"scans"} << QStringLiteral("X") << true << false << unchanged;
+        QTest::newRow("scan") << QStringList{"scans", "s"} << QStringLiteral("X") << true << false << unchanged;
+        QTest::newRow("read-only project") << QStringList{"scans", "A"} << QStringLiteral("X") << false << false
+                                           << unchanged;
+    }
+
+    void renaming()
+    {
+        QFETCH(QStringList, path);
+        QFETCH(QString, name);
+        QFETCH(bool, editable);
+        QFETCH(bool, accepted);
+        QFETCH(QString, tree);
+        Fixture f;
+        f.model.setEditable(editable);
+        QSignalSpy relevant(&f.model, &FileTreeModel::relevantDataChanged);
+        const QModelIndex index = f.at(path);
+        QVERIFY(index.isValid());
+        QCOMPARE(f.model.setData(index, name, Qt::EditRole), accepted);
+        QCOMPARE(f.tree(), tree);
+        QCOMPARE(relevant.count(), accepted ? 1 : 0);
+    }
+
+    void removingRows_data()
+    {
+        QTest::addColumn<QStringList>("parent");
+        QTest::addColumn<int>("row");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<bool>("editable");
+        QTest::addColumn<bool>("accepted");
+        QTest::addColumn<QList<quint32>>("removedScans");
+        QTest::addColumn<QString>("tree");
+        const QString unchanged = QStringLiteral("scans+(A+(a1#10+) B+(B1+(b#11+)) s#12+ t#13-)");
+        QTest::newRow("one scan") << QStringList{"scans"} << 3 << 1 << true << true << QList<quint32>{13}
+                                  << QStringLiteral("scans+(A+(a1#10+) B+(B1+(b#11+)) s#12+)");
+        QTest::newRow("folders and a scan") << QStringList{"scans"} << 1 << 2 << true << true << QList<quint32>{11, 12}
+                                            << QStringLiteral("scans+(A+(a1#10+) t#13-)");
+        QTest::newRow("empty folder") << QStringList{"scans", "B"} << 0 << 1 << true << true << QList<quint32>{11}
+                                      << QStringLiteral("scans+(A+(a1#10+) B+() s#12+ t#13-)");
+        QTest::newRow("rows past the end") << QStringList{"scans"} << 3 << 2 << true << false << QList<quint32>{}
+                                           << unchanged;
+        QTest::newRow("root folder") << QStringList{} << 0 << 1 << true << false << QList<quint32>{} << unchanged;
+        QTest::newRow("read-only project") << QStringList{"scans"} << 0 << 1 << false << false << QList<quint32>{}
+                                           << unchanged;
+    }
+
+    void removingRows()
+    {
+        QFETCH(QStringList, parent);
+        QFETCH(int, row);
+        QFETCH(int, count);
+        QFETCH(bool, editable);
+        QFETCH(bool, accepted);
+        QFETCH(QList<quint32>, removedScans);
+        QFETCH(QString, tree);
+        Fixture f;
+        f.model.setEditable(editable);
+        QSignalSpy removed(&f.model, &FileTreeModel::scansRemoved);
+        QCOMPARE(f.model.removeRows(row, count, f.at(parent)), accepted);
+        QCOMPARE(f.tree(), tree);
+        QCOMPARE(removed.count(), removedScans.isEmpty() ? 0 : 1);
+        if (!removedScans.isEmpty())
+            QCOMPARE(removed.at(0).at(0).value<QList<quint32>>(), removedScans);
+    }
+
+    void addingNodes()
+    {
+        Fixture f;
+        QSignalSpy inserted(&f.model, &QAbstractItemModel::rowsInserted);
+        // The invalid index stands for the root folder; a new folder goes after the folders.
+        const QModelIndex c = f.model.addFolder(QModelIndex(), QStringLiteral("C"));
+        QCOMPARE(c.data().toString(), QStringLiteral("C"));
+        QCOMPARE(c.row(), 2);
+        const QModelIndex n = f.model.addScan(c, ProjectItemScan::create(QStringLiteral("n"), 14));
+        QCOMPARE(n, f.model.indexOfScan(14));
+        QVERIFY(!f.model.addFolder(f.model.indexOfScan(12), QStringLiteral("in a scan")).isValid());
+        QCOMPARE(f.tree(), QStringLiteral("scans+(A+(a1#10+) B+(B1+(b#11+)) C+(n#14+) s#12+ t#13-)"));
+        QCOMPARE(inserted.count(), 2);
+    }
+
+    void dragAndDrop_data()
+    {
+        QTest::addColumn<QList<QStringList>>("dragged");
+        QTest::addColumn<QStringList>("target");
+        QTest::addColumn<int>("row");
+        QTest::addColumn<bool>("allowed");
+        QTest::addColumn<QString>("tree");
+        const QString unchanged = QStringLiteral("scans+(A+(a1#10+) B+(B1+(b#11+)) s#12+ t#13-)");
+        QTest::newRow("scan into a folder") << QList<QStringList>{{"scans", "s"}} << QStringList{"scans", "A"} << -1
+                                            << true << QStringLiteral("scans+(A+(a1#10+ s#12+) B+(B1+(b#11+)) t#13-)");
+        QTest::newRow("scan before another") << QList<QStringList>{{"scans", "t"}} << QStringList{"scans", "A"} << 0
+                                             << true << QStringLiteral("scans+(A+(t#13- a1#10+) B+(B1+(b#11+)) s#12+)");
+        QTest::newRow("folder up to the root") << QList<QStringList>{{"scans", "B", "B1"}} << QStringList{"scans"} << -1
+                                               << true << QStringLiteral("scans+(A+(a1#10+) B+() B1+(b#11+) s#12+ t#13-)");
+        QTest::newRow("reordering scans") << QList<QStringList>{{"scans", "s"}} << QStringList{"scans"} << 4 << true
+                                          << QStringLiteral("scans+(A+(a1#10+) B+(B1+(b#11+)) t#13- s#12+)");
+        QTest::newRow("folder with its own scan and another")
+            << QList<QStringList>{{"scans", "B", "B1", "b"}, {"scans", "t"}, {"scans", "B"}} << QStringList{"scans", "A"}
+            << -1 << true << QStringLiteral("scans+(A+(B+(B1+(b#11+)) a1#10+ t#13-) s#12+)");
+        QTest::newRow("folder into its own sub-folder") << QList<QStringList>{{"scans", "B"}}
+                                                        << QStringList{"scans", "B", "B1"} << -1 << false << unchanged;
+        QTest::newRow("folder into itself") << QList<QStringList>{{"scans", "A"}} << QStringList{"scans", "A"} << -1
+                                            << false << unchanged;
+        QTest::newRow("root folder") << QList<QStringList>{{"scans"}} << QStringList{"scans", "A"} << -1 << false
+                                     << unchanged;
+        QTest::newRow("onto a scan") << QList<QStringList>{{"scans", "t"}} << QStringList{"scans", "s"} << -1 << false
+                                     << unchanged;
+        QTest::newRow("onto empty space") << QList<QStringList>{{"scans", "t"}} << QStringList{} << -1 << false
+                                          << unchanged;
+    }
+
+    void dragAndDrop()
+    {
+        QFETCH(QList<QStringList>, dragged);
+        QFETCH(QStringList, target);
+        QFETCH(int, row);
+        QFETCH(bool, allowed);
+        QFETCH(QString, tree);
+        Fixture f;
+        QModelIndexList indexes;
+        for (const QStringList& path : dragged) {
+            indexes << f.at(path);
+            QVERIFY(indexes.last().isValid());
+        }
+        const QModelIndex targetIndex = f.at(target);
+        QSignalSpy moved(&f.model, &QAbstractItemModel::rowsMoved);
+        std::unique_ptr<QMimeData> mime(f.model.mimeData(indexes));
+        QVERIFY(mime);
+        QVERIFY(mime->hasFormat(QStringLiteral("application/x-tarvenix-projectnode")));
+        QCOMPARE(f.model.canDropMimeData(mime.get(), Qt::MoveAction, row, 0, targetIndex), allowed);
+        // The model moves the nodes itself and answers false, so that a view removes nothing.
+        QVERIFY(!f.model.dropMimeData(mime.get(), Qt::MoveAction, row, 0, targetIndex));
+        QCOMPARE(f.tree(), tree);
+        QCOMPARE(moved.count() > 0, allowed);
+    }
+
+    void dropsOnlyFromThisModel_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::newRow("plain mime data of the right type") << QStringLiteral("plain");
+        QTest::newRow("drag of another model") << QStringLiteral("other model");
+        QTest::newRow("copy instead of move") << QStringLiteral("copy");
+        QTest::newRow("read-only project") << QStringLiteral("read-only");
+    }
+
+    void dropsOnlyFromThisModel()
+    {
+        QFETCH(QString, source);
+        Fixture f;
+        Fixture other;
+        const QModelIndex target = f.at({QStringLiteral("scans"), QStringLiteral("A")});
+        std::unique_ptr<QMimeData> mime;
+        Qt::DropAction action = Qt::MoveAction;
+        if (source == QLatin1String("plain")) {
+            mime = std::make_unique<QMimeData>();
+            mime->setData(FileTreeModel::mimeType, QByteArray("1"));
+        } else if (source == QLatin1String("other model")) {
+            mime.reset(other.model.mimeData({other.model.indexOfScan(12)}));
+        } else {
+            mime.reset(f.model.mimeData({f.model.indexOfScan(12)}));
+            if (source == QLatin1String("copy"))
+                action = Qt::CopyAction;
+            else
+                f.model.setEditable(false);
+        }
+        QVERIFY(!f.model.canDropMimeData(mime.get(), action, -1, 0, target));
+        QVERIFY(!f.model.dropMimeData(mime.get(), action, -1, 0, target));
+        QCOMPARE(f.tree(), QStringLiteral("scans+(A+(a1#10+) B+(B1+(b#11+)) s#12+ t#13-)"));
+        QCOMPARE(other.tree(), QStringLiteral("scans+(A+(a1#10+) B+(B1+(b#11+)) s#12+ t#13-)"));
+    }
+
+    void flags_data()
+    {
+        QTest::addColumn<QStringList>("path");
+        QTest::addColumn<bool>("editable");
+        QTest::addColumn<int>("flags");
+        const int base = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+        const int scan = base | Qt::ItemIsUserCheckable | Qt::ItemNeverHasChildren;
+        QTest::newRow("root folder") << QStringList{"scans"} << true << (base | Qt::ItemIsDropEnabled);
+        QTest::newRow("folder") << QStringList{"scans", "A"} << true
+                                << (base | Qt::ItemIsDropEnabled | Qt::ItemIsDragEnabled | Qt::ItemIsEditable);
+        QTest::newRow("scan") << QStringList{"scans", "s"} << true << (scan | Qt::ItemIsDragEnabled);
+        QTest::newRow("read-only folder") << QStringList{"scans", "A"} << false << base;
+        QTest::newRow("read-only scan") << QStringList{"scans", "s"} << false << scan;
+    }
+
+    void flags()
+    {
+        QFETCH(QStringList, path);
+        QFETCH(bool, editable);
+        QFETCH(int, flags);
+        Fixture f;
+        f.model.setEditable(editable);
+        QCOMPARE(int(f.model.flags(f.at(path))), flags);
+    }
+};
+
+TVX_TEST(FileTreeModelTest)
+
+#include "filetreemodeltest.moc"

@@ -1,0 +1,198 @@
+#pragma once
+
+// Test data of the project tests: project files put together by hand from the format's table, and
+// small scans written with the project's own scan writer.
+#include "annotations/tvxsreferencesphere.h"
+#include "fileio/tvxfilereferenceinfo.h"
+#include "fileio/tvxfilescaninfo.h"
+#include "fileio/tvxfilewriter.h"
+#include "project/projectitemscangroup.h"
+
+#include <QByteArray>
+#include <QDataStream>
+#include <QFile>
+#include <QList>
+#include <QPair>
+#include <QString>
+#include <QStringList>
+
+#include <array>
+#include <cmath>
+#include <functional>
+
+namespace TVX::TEST {
+
+// A project file put together field by field, straight from the format's table, so that the
+// tests do not depend on the serializer's own writer. Every field can be spoilt on its own.
+struct ProjectFileFields {
+    quint32 magic = 0x54565848; // "TVXH"
+    quint32 formatVersion = 3;
+    quint32 major = 2021, minor = 1, patch = 151;
+    quint32 streamVersion = 12;
+    quint32 fileBegin = 0x200000, projectBegin = 0x210000, originTag = 0x210001;
+    double origin[3] = {1.5, -2.25, 310.0};
+    quint32 coordinateSystemsTag = 0x210002;
+    QByteArray coordinateSystems; // count, entries and current index, see coordinateSystems()
+    quint32 scanListTag = 0x210003;
+    QByteArray scanList;
+    quint32 treeTag = 0x210004;
+    QByteArray tree;
+    quint32 projectEnd = 0x21FFFF, fileEnd = 0x2FFFFF;
+};
+
+inline QDataStream& setUp(QDataStream& stream)
+{
+    stream.setVersion(12);
+    stream.setByteOrder(QDataStream::BigEndian);
+    stream.setFloatingPointPrecision(QDataStream::DoublePrecision);
+    return stream;
+}
+
+template<typename... Values>
+inline QByteArray bytesOf(const Values&... values)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    setUp(stream);
+    (stream << ... << values);
+    return bytes;
+}
+
+inline QByteArray utf8Field(const QByteArray& text)
+{
+    return bytesOf(qint64(text.size())) + text;
+}
+
+inline QByteArray folderRecord(bool enabled, const QByteArray& name, qint64 children)
+{
+    return bytesOf(quint32(1), qint8(enabled)) + utf8Field(name) + bytesOf(children);
+}
+
+inline QByteArray scanRecord(bool enabled, const QByteArray& name, qint64 id)
+{
+    return bytesOf(quint32(2), qint8(enabled)) + utf8Field(name) + bytesOf(id);
+}
+
+inline QByteArray scanList(const QList<QByteArray>& names)
+{
+    QByteArray bytes = bytesOf(qint64(names.size()));
+    for (const QByteArray& name : names)
+        bytes += utf8Field(name);
+    return bytes;
+}
+
+inline QByteArray coordinateSystems(const QList<QPair<QString, double>>& systems, quint32 current)
+{
+    // The seven values of a system are its base value + 0..6, enough to tell them apart.
+    QByteArray bytes = bytesOf(quint32(systems.size()));
+    for (const auto& [name, base] : systems) {
+        bytes += bytesOf(name);
+        for (int i = 0; i < 7; ++i)
+            bytes += bytesOf(base + i);
+    }
+    return bytes + bytesOf(current);
+}
+
+inline ProjectFileFields typicalFields()
+{
+    ProjectFileFields f;
+    f.coordinateSystems = coordinateSystems({{QStringLiteral("Site grid"), 10.0}, {QStringLiteral("Gauß-Krüger"), 20.0}}, 1);
+    f.scanList = scanList({"scans/north.tvx", "scans/süd.tvx", "scans/east.tvx"});
+    // scans( Facade( north#0 ) süd#1 -east#2 )
+    f.tree = folderRecord(true, "scans", 3) + folderRecord(true, "Facade", 1) + scanRecord(true, "north", 0)
+             + scanRecord(true, "süd", 1) + scanRecord(false, "east", 2);
+    return f;
+}
+
+inline QByteArray build(const ProjectFileFields& f)
+{
+    QByteArray bytes = bytesOf(f.magic, f.formatVersion, f.major, f.minor, f.patch, f.streamVersion, f.fileBegin,
+                               f.projectBegin, f.originTag, f.origin[0], f.origin[1], f.origin[2]);
+    if (f.formatVersion >= 2)
+        bytes += bytesOf(f.coordinateSystemsTag) + f.coordinateSystems;
+    bytes += bytesOf(f.scanListTag) + f.scanList + bytesOf(f.treeTag) + f.tree + bytesOf(f.projectEnd, f.fileEnd);
+    return bytes;
+}
+
+// The tree as text: a folder is name[flag](children), a scan name#id[flag]; flag + or -.
+inline QString describe(const CORE::ProjectItemPtr& item)
+{
+    const QString flag = item->isEnabled() ? QStringLiteral("+") : QStringLiteral("-");
+    if (item->isScan()) {
+        return QStringLiteral("%1#%2%3")
+            .arg(item->name())
+            .arg(std::static_pointer_cast<CORE::ProjectItemScan>(item)->scanId())
+            .arg(flag);
+    }
+    const auto folder = std::static_pointer_cast<CORE::ProjectItemScanGroup>(item);
+    QStringList children;
+    for (int i = 0; i < folder->childCount(); ++i)
+        children << describe(folder->child(i));
+    return QStringLiteral("%1%2(%3)").arg(item->name(), flag, children.join(QLatin1Char(' ')));
+}
+
+inline bool writeBytes(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size();
+}
+
+inline QByteArray readBytes(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// The cells of the test scans: colour, intensity and distance follow from column and row, so a
+// test can work out what any cell must show. No cell is without return.
+inline CORE::TVXFileCell testCell(quint32 column, quint32 row)
+{
+    CORE::TVXFileCell cell;
+    cell.distanceMm = 1000 + 7 * column + 3 * row;
+    cell.intensity = quint8((column + 2 * row) % 256);
+    cell.red = quint8((5 * column) % 256);
+    cell.green = quint8((11 * row) % 256);
+    cell.blue = 200;
+    return cell;
+}
+
+struct TestScan {
+    quint32 columns = 40;
+    quint32 rows = 30;
+    quint32 tileSize = 8; // small, so that a lens picture spans several tiles
+    bool intensity = true;
+    bool colour = true;
+    std::array<double, 16> transformation{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+    std::function<CORE::TVXFileCell(quint32, quint32)> cells = testCell;
+};
+
+// Angle range of the test scans: the full circle, and −π/4 to +π/4 vertically.
+constexpr double testHorizontalMin = 0.0;
+constexpr double testHorizontalMax = 2 * M_PI;
+constexpr double testVerticalMin = -M_PI / 4;
+constexpr double testVerticalMax = M_PI / 4;
+
+inline bool writeTestScan(const QString& path, const TestScan& scan, QString* error = nullptr)
+{
+    CORE::TVXFileWriter writer;
+    CORE::TVXFileScanInfo& info = writer.scanInfo();
+    info.columns = scan.columns;
+    info.rows = scan.rows;
+    info.tileSize = scan.tileSize;
+    info.horizontalMin = testHorizontalMin;
+    info.horizontalMax = testHorizontalMax;
+    info.verticalMin = testVerticalMin;
+    info.verticalMax = testVerticalMax;
+    info.transformation = scan.transformation;
+    info.channels.push_back({CORE::TVXFileScanInfo::Distance, 0});
+    if (scan.intensity)
+        info.channels.push_back({CORE::TVXFileScanInfo::Intensity, 0});
+    if (scan.colour)
+        info.channels.push_back({CORE::TVXFileScanInfo::Colour, 0});
+    writer.referenceInfo().appendObject(std::make_shared<CORE::TVXSReferenceSphere>(
+        QStringLiteral("S1"), CORE::TVXSReferencePoint::Values{1.25, -2.5, 0.75, 0.0725}));
+    writer.setCellSource(scan.cells);
+    return writer.write(path, error);
+}
+
+} // namespace TVX::TEST

@@ -1,0 +1,343 @@
+#include "testregistry.h"
+
+#include "projectfixtures.h"
+
+#include "fileio/tvxprojectserializer.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace TVX::CORE;
+using namespace TVX::TEST;
+
+Q_DECLARE_METATYPE(TVX::CORE::ProjectItemScanGroupPtr)
+
+namespace {
+
+ProjectItemScanGroupPtr folder(const QString& name, bool enabled = true)
+{
+    auto f = ProjectItemScanGroup::create(name);
+    f->setEnabled(enabled);
+    return f;
+}
+
+ProjectItemScanPtr scan(const QString& name, quint64 id, bool enabled = true)
+{
+    auto s = ProjectItemScan::create(name, id);
+    s->setEnabled(enabled);
+    return s;
+}
+
+} // namespace
+
+class TVXProjectSerializerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsEveryFormatUpToThree_data()
+    {
+        QTest::addColumn<quint32>("formatVersion");
+        QTest::addColumn<int>("coordinateSystemCount");
+        QTest::addColumn<quint32>("currentCoordinateSystem");
+        // Below format 2 the file has no coordinate systems section at all.
+        QTest::newRow("format 0") << 0u << 0 << 0u;
+        QTest::newRow("format 1") << 1u << 0 << 0u;
+        QTest::newRow("format 2") << 2u << 2 << 1u;
+        QTest::newRow("format 3") << 3u << 2 << 1u;
+    }
+
+    void readsEveryFormatUpToThree()
+    {
+        QFETCH(quint32, formatVersion);
+        QFETCH(int, coordinateSystemCount);
+        QFETCH(quint32, currentCoordinateSystem);
+
+        ProjectFileFields fields = typicalFields();
+        fields.formatVersion = formatVersion;
+        fields.major = 2019;
+        fields.minor = 4;
+        fields.patch = 12;
+        TVXProjectSerializer serializer(QStringLiteral("memory.tvxprj"));
+        TVXProjectContent content;
+        QVERIFY2(serializer.read(build(fields), content), qPrintable(serializer.errorString()));
+
+        QCOMPARE(serializer.formatVersion(), formatVersion);
+        QCOMPARE(serializer.writerMajor(), 2019u);
+        QCOMPARE(serializer.writerMinor(), 4u);
+        QCOMPARE(serializer.writerPatch(), 12u);
+        QCOMPARE(content.origin[0], 1.5);
+        QCOMPARE(content.origin[1], -2.25);
+        QCOMPARE(content.origin[2], 310.0);
+        QCOMPARE(int(content.coordinateSystems.size()), coordinateSystemCount);
+        QCOMPARE(content.currentCoordinateSystem, currentCoordinateSystem);
+        if (coordinateSystemCount > 0) {
+            QCOMPARE(content.coordinateSystems[1].name, QStringLiteral("Gauß-Krüger"));
+            QCOMPARE(content.coordinateSystems[1].values[0], 20.0);
+            QCOMPARE(content.coordinateSystems[1].values[6], 26.0);
+        }
+        QCOMPARE(content.scans,
+                 QStringList({QStringLiteral("scans/north.tvx"), QStringLiteral("scans/süd.tvx"),
+                              QStringLiteral("scans/east.tvx")}));
+        QCOMPARE(describe(content.root), QStringLiteral("scans+(Facade+(north#0+) süd#1+ east#2-)"));
+    }
+
+    void refusesNewerFormats_data()
+    {
+        QTest::addColumn<quint32>("formatVersion");
+        QTest::newRow("format 4") << 4u;
+        QTest::newRow("format 0xFFFFFFFF") << 0xFFFFFFFFu;
+    }
+
+    void refusesNewerFormats()
+    {
+        QFETCH(quint32, formatVersion);
+        ProjectFileFields fields = typicalFields();
+        fields.formatVersion = formatVersion;
+        fields.major = 2030;
+        fields.minor = 2;
+        fields.patch = 7;
+        TVXProjectSerializer serializer(QStringLiteral("memory.tvxprj"));
+        TVXProjectContent content;
+        QVERIFY(!serializer.read(build(fields), content));
+        // The header stays known, for the upgrade advice.
+        QCOMPARE(serializer.formatVersion(), formatVersion);
+        QCOMPARE(serializer.writerMajor(), 2030u);
+        QCOMPARE(serializer.writerMinor(), 2u);
+        QCOMPARE(serializer.writerPatch(), 7u);
+        QVERIFY(!content.root);
+    }
+
+    void treeRoundTrip_data()
+    {
+        QTest::addColumn<ProjectItemScanGroupPtr>("root");
+        QTest::addColumn<QString>("expected");
+
+        QTest::newRow("root only") << folder(QStringLiteral("scans")) << QStringLiteral("scans+()");
+
+        auto mixed = folder(QStringLiteral("scans"));
+        // Added scans first: a folder still lists its sub-folders before its scans.
+        mixed->appendScan(scan(QStringLiteral("s1"), 1));
+        mixed->appendFolder(folder(QStringLiteral("B"), false));
+        mixed->appendScan(scan(QStringLiteral("s0"), 0, false));
+        mixed->appendFolder(folder(QStringLiteral("A")));
+        QTest::newRow("scans added before folders") << mixed << QStringLiteral("scans+(B-() A+() s1#1+ s0#0-)");
+
+        auto nested = folder(QStringLiteral("scans"));
+        auto outer = folder(QStringLiteral("Outer"));
+        auto inner = folder(QStringLiteral("Inner"));
+        inner->appendScan(scan(QStringLiteral("deep"), 7));
+        outer->appendFolder(inner);
+        outer->appendScan(scan(QStringLiteral("mid"), 3));
+        nested->appendFolder(outer);
+        nested->appendFolder(folder(QStringLiteral("Empty")));
+        nested->appendScan(scan(QStringLiteral("top"), 5));
+        QTest::newRow("nested folders") << nested
+                                        << QStringLiteral("scans+(Outer+(Inner+(deep#7+) mid#3+) Empty+() top#5+)");
+
+        auto unusual = folder(QStringLiteral("scans"));
+        unusual->appendFolder(folder(QStringLiteral("Ünïcödé ✓")));
+        unusual->appendScan(scan(QString(), 4000000000u));
+        QTest::newRow("unicode and empty names, large identifier")
+            << unusual << QStringLiteral("scans+(Ünïcödé ✓+() #4000000000+)");
+    }
+
+    void treeRoundTrip()
+    {
+        QFETCH(ProjectItemScanGroupPtr, root);
+        QFETCH(QString, expected);
+        QCOMPARE(describe(root), expected);
+
+        TVXProjectContent written;
+        written.root = root;
+        TVXProjectSerializer serializer(QStringLiteral("memory.tvxprj"));
+        TVXProjectContent read;
+        QVERIFY2(serializer.read(TVXProjectSerializer::encode(written), read), qPrintable(serializer.errorString()));
+        QCOMPARE(describe(read.root), expected);
+    }
+
+    // The writer's tree records are exactly the depth-first sequence that the format describes.
+    void writesTreeRecordsDepthFirst()
+    {
+        TVXProjectContent content;
+        content.origin = {1.5, -2.25, 310.0};
+        content.coordinateSystems.push_back({QStringLiteral("Site grid"), {10, 11, 12, 13, 14, 15, 16}});
+        content.coordinateSystems.push_back({QStringLiteral("Gauß-Krüger"), {20, 21, 22, 23, 24, 25, 26}});
+        content.currentCoordinateSystem = 1;
+        content.scans = QStringList{QStringLiteral("scans/north.tvx"), QStringLiteral("scans/süd.tvx"),
+                                    QStringLiteral("scans/east.tvx")};
+        content.root = folder(QStringLiteral("scans"));
+        content.root->appendScan(scan(QStringLiteral("süd"), 1));
+        content.root->appendScan(scan(QStringLiteral("east"), 2, false));
+        auto facade = folder(QStringLiteral("Facade"));
+        facade->appendScan(scan(QStringLiteral("north"), 0));
+        content.root->appendFolder(facade);
+
+        // typicalFields() holds the same project, built from the table by hand.
+        QCOMPARE(TVXProjectSerializer::encode(content), build(typicalFields()));
+    }
+
+    void refusesDamagedFiles_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        const auto spoilt = [](auto change) {
+            ProjectFileFields f = typicalFields();
+            change(f);
+            return build(f);
+        };
+
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("scan file magic") << spoilt([](ProjectFileFields& f) { f.magic = 0x54565846; });
+        QTest::newRow("stream version 13") << spoilt([](ProjectFileFields& f) { f.streamVersion = 13; });
+        QTest::newRow("file begin tag") << spoilt([](ProjectFileFields& f) { f.fileBegin = 0x100000; });
+        QTest::newRow("project begin tag") << spoilt([](ProjectFileFields& f) { f.projectBegin = 0x210001; });
+        QTest::newRow("origin tag") << spoilt([](ProjectFileFields& f) { f.originTag = 0x210002; });
+        QTest::newRow("coordinate systems tag") << spoilt([](ProjectFileFields& f) { f.coordinateSystemsTag = 0; });
+        QTest::newRow("scan list tag") << spoilt([](ProjectFileFields& f) { f.scanListTag = 0x210004; });
+        QTest::newRow("tree tag") << spoilt([](ProjectFileFields& f) { f.treeTag = 0x210003; });
+        QTest::newRow("project end tag") << spoilt([](ProjectFileFields& f) { f.projectEnd = 0x2FFFFF; });
+        QTest::newRow("file end tag") << spoilt([](ProjectFileFields& f) { f.fileEnd = 0x21FFFF; });
+        // Format 1 has no coordinate systems section, so its tag stands where the scan list tag belongs.
+        QByteArray format1WithSystems = build(typicalFields());
+        format1WithSystems.replace(4, 4, bytesOf(quint32(1)));
+        QTest::newRow("format 1 file with coordinate systems") << format1WithSystems;
+        QTest::newRow("absurd coordinate system count") << spoilt([](ProjectFileFields& f) {
+            f.coordinateSystems = bytesOf(quint32(0xFFFFFFF0)) + f.coordinateSystems.mid(4);
+        });
+        QTest::newRow("coordinate system name longer than the file") << spoilt([](ProjectFileFields& f) {
+            f.coordinateSystems = bytesOf(quint32(1), quint32(0x7FFFFFF0)) + QByteArray(60, 'x');
+        });
+        QTest::newRow("coordinate system name of odd length") << spoilt([](ProjectFileFields& f) {
+            f.coordinateSystems = bytesOf(quint32(1), quint32(3)) + QByteArray(3 + 56 + 4, '\0');
+        });
+        QTest::newRow("absurd scan count") << spoilt([](ProjectFileFields& f) {
+            f.scanList = bytesOf(qint64(1) << 60) + f.scanList.mid(8);
+        });
+        QTest::newRow("negative scan count") << spoilt([](ProjectFileFields& f) {
+            f.scanList = bytesOf(qint64(-1)) + f.scanList.mid(8);
+        });
+        QTest::newRow("scan name longer than the file") << spoilt([](ProjectFileFields& f) {
+            f.scanList = bytesOf(qint64(1), qint64(1) << 40) + QByteArray("scans/a.tvx");
+        });
+        QTest::newRow("negative scan name length") << spoilt([](ProjectFileFields& f) {
+            f.scanList = bytesOf(qint64(1), qint64(-5));
+        });
+        QTest::newRow("tree starting with a scan") << spoilt([](ProjectFileFields& f) {
+            f.tree = scanRecord(true, "scans", 0);
+        });
+        QTest::newRow("unknown record kind") << spoilt([](ProjectFileFields& f) {
+            f.tree = folderRecord(true, "scans", 1) + bytesOf(quint32(3), qint8(1)) + utf8Field("x") + bytesOf(qint64(0));
+        });
+        QTest::newRow("folder claiming more children than follow") << spoilt([](ProjectFileFields& f) {
+            f.tree = folderRecord(true, "scans", 3) + scanRecord(true, "a", 0) + scanRecord(true, "b", 1);
+        });
+        QTest::newRow("folder claiming 2^62 children") << spoilt([](ProjectFileFields& f) {
+            f.tree = folderRecord(true, "scans", qint64(1) << 62) + scanRecord(true, "a", 0);
+        });
+        QTest::newRow("negative child count") << spoilt([](ProjectFileFields& f) {
+            f.tree = folderRecord(true, "scans", -1);
+        });
+        QTest::newRow("record name longer than the file") << spoilt([](ProjectFileFields& f) {
+            f.tree = bytesOf(quint32(1), qint8(1), qint64(1) << 50);
+        });
+        QTest::newRow("folders nested 2000 deep") << spoilt([](ProjectFileFields& f) {
+            f.tree.clear();
+            for (int i = 0; i < 2000; ++i)
+                f.tree += folderRecord(true, "f", 1);
+            f.tree += scanRecord(true, "leaf", 0);
+        });
+    }
+
+    void refusesDamagedFiles()
+    {
+        QFETCH(QByteArray, bytes);
+        TVXProjectSerializer serializer(QStringLiteral("memory.tvxprj"));
+        TVXProjectContent content;
+        QVERIFY(!serializer.read(bytes, content));
+        QVERIFY(!serializer.errorString().isEmpty());
+    }
+
+    void refusesEveryTruncation()
+    {
+        const QByteArray whole = build(typicalFields());
+        TVXProjectSerializer serializer(QStringLiteral("memory.tvxprj"));
+        for (qsizetype size = 0; size < whole.size(); ++size) {
+            TVXProjectContent content;
+            QVERIFY2(!serializer.read(whole.left(size), content), qPrintable(QString::number(size)));
+        }
+        TVXProjectContent content;
+        QVERIFY(serializer.read(whole, content));
+    }
+
+    void savesThroughTemporaryFile()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("site.tvxprj"));
+        QFile old(path);
+        QVERIFY(old.open(QIODevice::WriteOnly));
+        old.write("an older project file");
+        old.close();
+
+        TVXProjectContent content;
+        content.root = folder(QStringLiteral("scans"));
+        content.root->appendScan(scan(QStringLiteral("a"), 0));
+        content.scans = QStringList{QStringLiteral("scans/a.tvx")};
+        TVXProjectSerializer writer(path);
+        QVERIFY(writer.open(TVXProjectSerializer::WriteOnly));
+        writer.write(content);
+        QCOMPARE(writer.formatVersion(), 3u);
+
+        QVERIFY(!QFile::exists(path + QStringLiteral(".tmp")));
+        TVXProjectSerializer reader(path);
+        TVXProjectContent read;
+        QVERIFY(reader.open(TVXProjectSerializer::ReadOnly));
+        QVERIFY2(reader.read(read), qPrintable(reader.errorString()));
+        QCOMPARE(describe(read.root), QStringLiteral("scans+(a#0+)"));
+        QCOMPARE(reader.writerMajor(), 2021u);
+        QCOMPARE(reader.writerMinor(), 1u);
+        QCOMPARE(reader.writerPatch(), 151u);
+    }
+
+    void saveFailures_data()
+    {
+        QTest::addColumn<QString>("obstacle"); // what stands in the way, see below
+        QTest::addColumn<int>("line");
+        // A project "file" that is a non-empty directory cannot be removed, even by root.
+        QTest::newRow("project file cannot be removed") << QStringLiteral("project") << 508;
+        // A directory where the ".tmp" file should go: the stream cannot be written.
+        QTest::newRow("temporary file cannot be created") << QStringLiteral("tmp") << 520;
+    }
+
+    void saveFailures()
+    {
+        QFETCH(QString, obstacle);
+        QFETCH(int, line);
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("site.tvxprj"));
+        const QString blocked = obstacle == QLatin1String("project") ? path : path + QStringLiteral(".tmp");
+        QVERIFY(QDir().mkpath(blocked + QStringLiteral("/inside")));
+
+        TVXProjectContent content;
+        content.root = folder(QStringLiteral("scans"));
+        TVXProjectSerializer writer(path);
+        writer.open(TVXProjectSerializer::WriteOnly);
+        try {
+            writer.write(content);
+            QFAIL("no read error thrown");
+        } catch (const std::ios_base::failure& error) {
+            const QString expected =
+                QStringLiteral("file read error libs/core/src/fileio/tvxprojectserializer, line %1").arg(line);
+            QCOMPARE(QString::fromLatin1(error.what()), expected);
+            QCOMPARE(error.code(), std::make_error_code(std::io_errc::stream));
+        }
+        if (obstacle == QLatin1String("project"))
+            QVERIFY(!QFile::exists(path + QStringLiteral(".tmp")));
+        QVERIFY(QFileInfo(blocked + QStringLiteral("/inside")).isDir());
+    }
+};
+
+TVX_TEST(TVXProjectSerializerTest)
+
+#include "tvxprojectserializertest.moc"
