@@ -34,45 +34,20 @@ class SceneItemsTableModelTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void display_data()
-    {
-        QTest::addColumn<int>("row");
-        QTest::addColumn<int>("column");
-        QTest::addColumn<int>("role");
-        QTest::addColumn<QVariant>("expected");
-
-        // The records' own values never show; the texts are fixed.
-        QTest::newRow("first row number") << 0 << 0 << int(Qt::DisplayRole) << QVariant(QStringLiteral("0"));
-        QTest::newRow("second row number") << 1 << 0 << int(Qt::DisplayRole) << QVariant(QStringLiteral("1"));
-        QTest::newRow("type column") << 0 << 1 << int(Qt::DisplayRole) << QVariant(QStringLiteral("object type"));
-        QTest::newRow("name column") << 1 << 2 << int(Qt::DisplayRole) << QVariant(QStringLiteral("object name"));
-        QTest::newRow("other role") << 1 << 0 << int(Qt::EditRole) << QVariant();
-        QTest::newRow("tool tip role") << 0 << 1 << int(Qt::ToolTipRole) << QVariant();
-    }
-
+    // The records' own values never show; the texts are fixed, and only for display.
     void display()
     {
-        QFETCH(int, row);
-        QFETCH(int, column);
-        QFETCH(int, role);
-        QFETCH(QVariant, expected);
-
         SceneItemsTableModel model;
         fill(model, 2);
         QCOMPARE(model.rowCount(), 2);
         QCOMPARE(model.columnCount(), 3);
-        QCOMPARE(model.data(model.index(row, column), role), expected);
-    }
-
-    void invalidIndexesShowNothing()
-    {
-        SceneItemsTableModel model;
-        fill(model, 2);
+        QCOMPARE(model.index(1, 0).data(), QVariant(QStringLiteral("1")));
+        QCOMPARE(model.index(0, 1).data(), QVariant(QStringLiteral("object type")));
+        QCOMPARE(model.index(1, 2).data(), QVariant(QStringLiteral("object name")));
+        QVERIFY(!model.index(1, 0).data(Qt::EditRole).isValid());
         QVERIFY(!model.data(QModelIndex()).isValid());
         QVERIFY(!model.data(model.index(2, 0)).isValid());
-        QVERIFY(!model.data(model.index(0, 3)).isValid());
-        QVERIFY(!model.item(2));
-        QVERIFY(!model.item(-1));
+        QVERIFY(!model.item(2) && !model.item(-1));
         QCOMPARE(model.item(1)->data().number, 101u);
     }
 
@@ -99,18 +74,13 @@ private Q_SLOTS:
         QTest::addColumn<int>("last");
 
         QTest::newRow("one in the middle") << 2 << 1 << QList<quint32>{100, 101, 103, 104} << 2 << 2;
-        QTest::newRow("two from the start") << 0 << 2 << QList<quint32>{102, 103, 104} << 0 << 1;
         QTest::newRow("all") << 0 << 5 << QList<quint32>{} << 0 << 4;
-        QTest::newRow("last") << 4 << 1 << QList<quint32>{100, 101, 102, 103} << 4 << 4;
         // Out-of-range requests are cut to the rows there are, and never fail.
         QTest::newRow("running past the end") << 3 << 10 << QList<quint32>{100, 101, 102} << 3 << 4;
         QTest::newRow("starting before the first row") << -2 << 3 << QList<quint32>{101, 102, 103, 104} << 0 << 0;
         QTest::newRow("starting past the end") << 5 << 1 << QList<quint32>{100, 101, 102, 103, 104} << -1 << -1;
-        QTest::newRow("none") << 1 << 0 << QList<quint32>{100, 101, 102, 103, 104} << -1 << -1;
         QTest::newRow("negative count") << 1 << -3 << QList<quint32>{100, 101, 102, 103, 104} << -1 << -1;
         QTest::newRow("huge count") << 1 << std::numeric_limits<int>::max() << QList<quint32>{100} << 1 << 4;
-        QTest::newRow("huge row") << std::numeric_limits<int>::max() << 2 << QList<quint32>{100, 101, 102, 103, 104}
-                                  << -1 << -1;
     }
 
     void removeRows()

@@ -1,4 +1,5 @@
 #include "testregistry.h"
+#include "viewerscenefixture.h"
 
 #include "annotations/sceneitemstablemodel.h"
 #include "annotations/tvxsdimensioning.h"
@@ -16,16 +17,12 @@
 #include <functional>
 
 using namespace TVX::CORE;
+using namespace TVX::TEST;
 
 using FillScene = std::function<void(SceneItemsTableModel&, ScanViewSceneGraph&)>;
 Q_DECLARE_METATYPE(FillScene)
 
 namespace {
-
-const QByteArray documentHead = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                                "<!DOCTYPE tvxscanviewer>\n"
-                                "<tvxviewerscene version=\"2.0\">\n";
-const QByteArray documentTail = "</tvxviewerscene>\n";
 
 QByteArray writeScene(const SceneItemsTableModel& model, const ScanViewSceneGraph* graph)
 {
@@ -71,217 +68,133 @@ private Q_SLOTS:
     void writesItems_data()
     {
         QTest::addColumn<FillScene>("fill");
+        QTest::addColumn<bool>("withGraph");
         QTest::addColumn<QByteArray>("body"); // between the root's start and end tags
 
-        QTest::newRow("no items") << FillScene([](SceneItemsTableModel&, ScanViewSceneGraph&) {}) << QByteArray();
-
-        QTest::newRow("polygon") << FillScene([](SceneItemsTableModel& model, ScanViewSceneGraph&) {
+        // Planar rows in model order, then the spherical items by kind whatever the order added:
+        // ellipses, polygons, rectangles, texts, measurements. float(123456.7) = 123456.703125 and
+        // 1234567 keep six digits: 123457 and 1.23457e+06. A text anchor is truncated towards zero
+        // and its offset never written.
+        QTest::newRow("every kind") << FillScene([](SceneItemsTableModel& model, ScanViewSceneGraph& graph) {
+            graph.addItem(std::make_shared<ScanViewMeasurementItem>(0, Vector3d(1, 0, 0), Vector3d(0, 1, 0)));
+            graph.addItem(std::make_shared<ScanViewMeasurementItem>(1, Vector3d(1, 0, 0), Vector3d(0, 0.25, 1e-50)));
+            graph.addItem(std::make_shared<ScanViewTextItem>(QStringLiteral("A<B & C>D"), Vector3d(0.5, -0.5, 0.70710678)));
+            graph.addItem(std::make_shared<ScanViewRectangle>(Vector3d(0, 1, 0), Vector3d(0.1, 0.2, 0.3), Vector3d(-1, -2, -3)));
+            graph.addItem(std::make_shared<ScanViewPolygon>(std::vector<Vector3d>{{0.6, 0.8, 0}, {0, 0.6, -0.8}}));
+            graph.addItem(std::make_shared<ScanViewEllipse>(Vector3d(1, 0, 0), Vector3d(0.5, 0.25, -0.125), Vector3d(0, 0, 1234567)));
             model.addItem(std::make_shared<TVXSPolygon>(QPolygonF({QPointF(12.5, 40), QPointF(1234.5678, -0.25)})));
-        }) << QByteArray("   <polygonitem>\n"
-                         "      <point>12.5, 40</point>\n"
-                         "      <point>1234.57, -0.25</point>\n"
-                         "   </polygonitem>\n");
-
-        // 1e-50 is below the float range and becomes 0; 1234567 keeps six digits: 1.23457e+06.
-        QTest::newRow("polygon point in single precision") << FillScene([](SceneItemsTableModel& model, ScanViewSceneGraph&) {
-            model.addItem(std::make_shared<TVXSPolygon>(QPolygonF({QPointF(1e-50, 1234567.0)})));
-        }) << QByteArray("   <polygonitem>\n"
-                         "      <point>0, 1.23457e+06</point>\n"
-                         "   </polygonitem>\n");
-
-        QTest::newRow("polygon without points") << FillScene([](SceneItemsTableModel& model, ScanViewSceneGraph&) {
-            model.addItem(std::make_shared<TVXSPolygon>(QPolygonF()));
-        }) << QByteArray("   <polygonitem>\n"
-                         "   </polygonitem>\n");
-
-        QTest::newRow("ellipse") << FillScene([](SceneItemsTableModel& model, ScanViewSceneGraph&) {
-            model.addItem(std::make_shared<TVXSEllipse>(QRectF(10, 20, 30.5, 0.001)));
-        }) << QByteArray("   <ellipseitem>\n"
-                         "      <rectangle>10, 20, 30.5, 0.001</rectangle>\n"
-                         "   </ellipseitem>\n");
-
-        // float(123456.7) = 123456.703125, six digits: 123457.
-        QTest::newRow("rectangle") << FillScene([](SceneItemsTableModel& model, ScanViewSceneGraph&) {
             model.addItem(std::make_shared<TVXSRectangle>(QRectF(-1.5, 2, 1e6, 123456.7)));
-        }) << QByteArray("   <rectangleitem>\n"
-                         "      <rectangle>-1.5, 2, 1e+06, 123457</rectangle>\n"
-                         "   </rectangleitem>\n");
-
-        // The anchor is truncated towards zero; the offset is never written.
-        QTest::newRow("text escaped, anchor truncated") << FillScene([](SceneItemsTableModel& model, ScanViewSceneGraph&) {
+            model.addItem(std::make_shared<TVXSEllipse>(QRectF(10, 20, 30.5, 0.001)));
             model.addItem(std::make_shared<TVXSSimpleText>(QStringLiteral("Pump & valve <north> a&lt;b"), QPointF(12.9, -3.7), QPointF(5, 6)));
-        }) << QByteArray("   <textitem>\n"
-                         "      <position>12, -3</position>\n"
-                         "      <text>Pump &amp; valve &lt;north&gt; a&amp;lt;b</text>\n"
-                         "   </textitem>\n");
-
-        // Truncation, not flooring: -0.9 gives 0, not -1.
-        QTest::newRow("text anchor just off zero") << FillScene([](SceneItemsTableModel& model, ScanViewSceneGraph&) {
-            model.addItem(std::make_shared<TVXSSimpleText>(QStringLiteral("x"), QPointF(-0.9, 0.9), QPointF()));
-        }) << QByteArray("   <textitem>\n"
-                         "      <position>0, 0</position>\n"
-                         "      <text>x</text>\n"
-                         "   </textitem>\n");
-
-        QTest::newRow("text with quotes, line break and umlaut") << FillScene([](SceneItemsTableModel& model, ScanViewSceneGraph&) {
-            model.addItem(std::make_shared<TVXSSimpleText>(QStringLiteral("say \"hi\"\nSch\u00e4cht"), QPointF(1, 2), QPointF()));
-        }) << QByteArray("   <textitem>\n"
-                         "      <position>1, 2</position>\n"
-                         "      <text>say \"hi\"\nSch\xc3\xa4" "cht</text>\n"
-                         "   </textitem>\n");
-
-        // Dimensioning points stay double: 1e-50 survives here, unlike in a polygon.
-        QTest::newRow("dimensioning 3D") << FillScene([](SceneItemsTableModel& model, ScanViewSceneGraph&) {
-            model.addItem(std::make_shared<TVXSDimensioning>(0, QPointF(1e-50, 40), QPointF(1234567.0, 0.5)));
-        }) << QByteArray("   <dimensioningitem type=\"3D\">\n"
-                         "      <point>1e-50, 40</point>\n"
-                         "      <point>1.23457e+06, 0.5</point>\n"
-                         "   </dimensioningitem>\n");
-
-        QTest::newRow("dimensioning DZ and XY") << FillScene([](SceneItemsTableModel& model, ScanViewSceneGraph&) {
             model.addItem(std::make_shared<TVXSDimensioning>(1, QPointF(1, 2), QPointF(3, 4)));
             model.addItem(std::make_shared<TVXSDimensioning>(2, QPointF(5, 6), QPointF(7, 8)));
-        }) << QByteArray("   <dimensioningitem type=\"DZ\">\n"
-                         "      <point>1, 2</point>\n"
-                         "      <point>3, 4</point>\n"
-                         "   </dimensioningitem>\n"
-                         "   <dimensioningitem type=\"XY\">\n"
-                         "      <point>5, 6</point>\n"
-                         "      <point>7, 8</point>\n"
-                         "   </dimensioningitem>\n");
+        }) << true << QByteArray("   <polygonitem>\n"
+                                 "      <point>12.5, 40</point>\n"
+                                 "      <point>1234.57, -0.25</point>\n"
+                                 "   </polygonitem>\n"
+                                 "   <rectangleitem>\n"
+                                 "      <rectangle>-1.5, 2, 1e+06, 123457</rectangle>\n"
+                                 "   </rectangleitem>\n"
+                                 "   <ellipseitem>\n"
+                                 "      <rectangle>10, 20, 30.5, 0.001</rectangle>\n"
+                                 "   </ellipseitem>\n"
+                                 "   <textitem>\n"
+                                 "      <position>12, -3</position>\n"
+                                 "      <text>Pump &amp; valve &lt;north&gt; a&amp;lt;b</text>\n"
+                                 "   </textitem>\n"
+                                 "   <dimensioningitem type=\"DZ\">\n"
+                                 "      <point>1, 2</point>\n"
+                                 "      <point>3, 4</point>\n"
+                                 "   </dimensioningitem>\n"
+                                 "   <dimensioningitem type=\"XY\">\n"
+                                 "      <point>5, 6</point>\n"
+                                 "      <point>7, 8</point>\n"
+                                 "   </dimensioningitem>\n"
+                                 "   <ellipseitem_spherical>\n"
+                                 "      <ellipse_3d>\n"
+                                 "         1, 0, 0,\n"
+                                 "         0.5, 0.25, -0.125,\n"
+                                 "         0, 0, 1.23457e+06\n"
+                                 "      </ellipse_3d>\n"
+                                 "   </ellipseitem_spherical>\n"
+                                 "   <polygonitem_spherical>\n"
+                                 "      <point_3d>0.6, 0.8, 0</point_3d>\n"
+                                 "      <point_3d>0, 0.6, -0.8</point_3d>\n"
+                                 "   </polygonitem_spherical>\n"
+                                 "   <rectangleitem_spherical>\n"
+                                 "      <rectangle_3d>\n"
+                                 "         0, 1, 0,\n"
+                                 "         0.1, 0.2, 0.3,\n"
+                                 "         -1, -2, -3\n"
+                                 "      </rectangle_3d>\n"
+                                 "   </rectangleitem_spherical>\n"
+                                 "   <textitem_spherical>\n"
+                                 "      <position>0.5, -0.5, 0.707107</position>\n"
+                                 "      <text>A&lt;B &amp; C&gt;D</text>\n"
+                                 "   </textitem_spherical>\n"
+                                 "   <dimensioningitem_spherical type=\"3D\">\n"
+                                 "      <point_3d>1, 0, 0</point_3d>\n"
+                                 "      <point_3d>0, 1, 0</point_3d>\n"
+                                 "   </dimensioningitem_spherical>\n"
+                                 "   <dimensioningitem_spherical type=\"DZ\">\n"
+                                 "      <point_3d>1, 0, 0</point_3d>\n"
+                                 "      <point_3d>0, 0.25, 0</point_3d>\n"
+                                 "   </dimensioningitem_spherical>\n");
 
-        // A reference point, a cloned 2D record (a plain record) and a dimensioning whose type has
-        // no name: none of them can be carried by the file.
-        QTest::newRow("records the file cannot carry") << FillScene([](SceneItemsTableModel& model, ScanViewSceneGraph&) {
+        // 1e-50 is below the float range and becomes 0, except in the 2D dimensioning, which stays double.
+        QTest::newRow("single precision but double dimensioning") << FillScene([](SceneItemsTableModel& model, ScanViewSceneGraph&) {
+            model.addItem(std::make_shared<TVXSPolygon>(QPolygonF({QPointF(1e-50, 1234567.0)})));
+            model.addItem(std::make_shared<TVXSDimensioning>(0, QPointF(1e-50, 40), QPointF(1234567.0, 0.5)));
+        }) << true << QByteArray("   <polygonitem>\n"
+                                 "      <point>0, 1.23457e+06</point>\n"
+                                 "   </polygonitem>\n"
+                                 "   <dimensioningitem type=\"3D\">\n"
+                                 "      <point>1e-50, 40</point>\n"
+                                 "      <point>1.23457e+06, 0.5</point>\n"
+                                 "   </dimensioningitem>\n");
+
+        // Truncation, not flooring: -0.9 gives 0, not -1.
+        QTest::newRow("text anchor just off zero, quotes, line break, umlaut") << FillScene([](SceneItemsTableModel& model, ScanViewSceneGraph&) {
+            model.addItem(std::make_shared<TVXSSimpleText>(QStringLiteral("say \"hi\"\nSch\u00e4cht"), QPointF(-0.9, 0.9), QPointF()));
+            model.addItem(std::make_shared<TVXSPolygon>(QPolygonF()));
+        }) << true << QByteArray("   <textitem>\n"
+                                 "      <position>0, 0</position>\n"
+                                 "      <text>say \"hi\"\nSch\xc3\xa4" "cht</text>\n"
+                                 "   </textitem>\n"
+                                 "   <polygonitem>\n"
+                                 "   </polygonitem>\n");
+
+        // A reference point, a cloned 2D record (a plain record), a dimensioning whose type has no
+        // name, spherical items short of points or of an unknown type: the file carries none of them.
+        QTest::newRow("items the file cannot carry") << FillScene([](SceneItemsTableModel& model, ScanViewSceneGraph& graph) {
             model.addItem(std::make_shared<TVXSReferencePoint>(QStringLiteral("P1"), TVXSReferencePoint::Values{}));
             model.addItem(TVXSRectangle(QRectF(1, 2, 3, 4)).clone());
             model.addItem(std::make_shared<TVXSDimensioning>(3, QPointF(1, 2), QPointF(3, 4)));
-        }) << QByteArray();
-
-        QTest::newRow("planar rows in model order") << FillScene([](SceneItemsTableModel& model, ScanViewSceneGraph&) {
-            model.addItem(std::make_shared<TVXSRectangle>(QRectF(1, 2, 3, 4)));
-            model.addItem(std::make_shared<TVXSEllipse>(QRectF(5, 6, 7, 8)));
-            model.addItem(std::make_shared<TVXSRectangle>(QRectF(9, 10, 11, 12)));
-        }) << QByteArray("   <rectangleitem>\n"
-                         "      <rectangle>1, 2, 3, 4</rectangle>\n"
-                         "   </rectangleitem>\n"
-                         "   <ellipseitem>\n"
-                         "      <rectangle>5, 6, 7, 8</rectangle>\n"
-                         "   </ellipseitem>\n"
-                         "   <rectangleitem>\n"
-                         "      <rectangle>9, 10, 11, 12</rectangle>\n"
-                         "   </rectangleitem>\n");
-
-        QTest::newRow("spherical ellipse") << FillScene([](SceneItemsTableModel&, ScanViewSceneGraph& graph) {
-            graph.addItem(std::make_shared<ScanViewEllipse>(Vector3d(1, 0, 0), Vector3d(0.5, 0.25, -0.125), Vector3d(0, 0, 1234567)));
-        }) << QByteArray("   <ellipseitem_spherical>\n"
-                         "      <ellipse_3d>\n"
-                         "         1, 0, 0,\n"
-                         "         0.5, 0.25, -0.125,\n"
-                         "         0, 0, 1.23457e+06\n"
-                         "      </ellipse_3d>\n"
-                         "   </ellipseitem_spherical>\n");
-
-        QTest::newRow("spherical rectangle") << FillScene([](SceneItemsTableModel&, ScanViewSceneGraph& graph) {
-            graph.addItem(std::make_shared<ScanViewRectangle>(Vector3d(0, 1, 0), Vector3d(0.1, 0.2, 0.3), Vector3d(-1, -2, -3)));
-        }) << QByteArray("   <rectangleitem_spherical>\n"
-                         "      <rectangle_3d>\n"
-                         "         0, 1, 0,\n"
-                         "         0.1, 0.2, 0.3,\n"
-                         "         -1, -2, -3\n"
-                         "      </rectangle_3d>\n"
-                         "   </rectangleitem_spherical>\n");
-
-        QTest::newRow("spherical polygon") << FillScene([](SceneItemsTableModel&, ScanViewSceneGraph& graph) {
-            graph.addItem(std::make_shared<ScanViewPolygon>(std::vector<Vector3d>{{0.6, 0.8, 0}, {0, 0.6, -0.8}, {1, 0, 0}}));
-        }) << QByteArray("   <polygonitem_spherical>\n"
-                         "      <point_3d>0.6, 0.8, 0</point_3d>\n"
-                         "      <point_3d>0, 0.6, -0.8</point_3d>\n"
-                         "      <point_3d>1, 0, 0</point_3d>\n"
-                         "   </polygonitem_spherical>\n");
-
-        // float(0.70710678) = 0.707106769..., six digits: 0.707107.
-        QTest::newRow("spherical text") << FillScene([](SceneItemsTableModel&, ScanViewSceneGraph& graph) {
-            graph.addItem(std::make_shared<ScanViewTextItem>(QStringLiteral("A<B & C>D"), Vector3d(0.5, -0.5, 0.70710678)));
-        }) << QByteArray("   <textitem_spherical>\n"
-                         "      <position>0.5, -0.5, 0.707107</position>\n"
-                         "      <text>A&lt;B &amp; C&gt;D</text>\n"
-                         "   </textitem_spherical>\n");
-
-        QTest::newRow("spherical measurement") << FillScene([](SceneItemsTableModel&, ScanViewSceneGraph& graph) {
-            graph.addItem(std::make_shared<ScanViewMeasurementItem>(1, Vector3d(1, 0, 0), Vector3d(0, 0.25, 1e-50)));
-        }) << QByteArray("   <dimensioningitem_spherical type=\"DZ\">\n"
-                         "      <point_3d>1, 0, 0</point_3d>\n"
-                         "      <point_3d>0, 0.25, 0</point_3d>\n"
-                         "   </dimensioningitem_spherical>\n");
-
-        QTest::newRow("spherical items short of points or of unknown type") << FillScene([](SceneItemsTableModel&, ScanViewSceneGraph& graph) {
             auto ellipse = std::make_shared<ScanViewEllipse>();
             ellipse->appendPoint(Vector3d(1, 0, 0));
             graph.addItem(ellipse);
             graph.addItem(std::make_shared<ScanViewRectangle>());
             graph.addItem(std::make_shared<ScanViewMeasurementItem>(5, Vector3d(1, 0, 0), Vector3d(0, 1, 0)));
-        }) << QByteArray();
+        }) << true << QByteArray();
 
-        // Added in reverse kind order, written as ellipses, polygons, rectangles, texts,
-        // measurements, all after the planar rows.
-        QTest::newRow("planar first, then spherical by kind") << FillScene([](SceneItemsTableModel& model, ScanViewSceneGraph& graph) {
-            graph.addItem(std::make_shared<ScanViewMeasurementItem>(0, Vector3d(1, 0, 0), Vector3d(0, 1, 0)));
+        QTest::newRow("without a graph only planar rows") << FillScene([](SceneItemsTableModel& model, ScanViewSceneGraph& graph) {
+            model.addItem(std::make_shared<TVXSPolygon>(QPolygonF({QPointF(1, 2)})));
             graph.addItem(std::make_shared<ScanViewTextItem>(QStringLiteral("t"), Vector3d(0, 0, 1)));
-            graph.addItem(std::make_shared<ScanViewRectangle>(Vector3d(1, 0, 0), Vector3d(0, 1, 0), Vector3d(0, 0, 1)));
-            graph.addItem(std::make_shared<ScanViewPolygon>(std::vector<Vector3d>{{0, 0, 1}}));
-            graph.addItem(std::make_shared<ScanViewEllipse>(Vector3d(0, 0, 1), Vector3d(0, 1, 0), Vector3d(1, 0, 0)));
-            model.addItem(std::make_shared<TVXSPolygon>(QPolygonF({QPointF(7, 8)})));
-        }) << QByteArray("   <polygonitem>\n"
-                         "      <point>7, 8</point>\n"
-                         "   </polygonitem>\n"
-                         "   <ellipseitem_spherical>\n"
-                         "      <ellipse_3d>\n"
-                         "         0, 0, 1,\n"
-                         "         0, 1, 0,\n"
-                         "         1, 0, 0\n"
-                         "      </ellipse_3d>\n"
-                         "   </ellipseitem_spherical>\n"
-                         "   <polygonitem_spherical>\n"
-                         "      <point_3d>0, 0, 1</point_3d>\n"
-                         "   </polygonitem_spherical>\n"
-                         "   <rectangleitem_spherical>\n"
-                         "      <rectangle_3d>\n"
-                         "         1, 0, 0,\n"
-                         "         0, 1, 0,\n"
-                         "         0, 0, 1\n"
-                         "      </rectangle_3d>\n"
-                         "   </rectangleitem_spherical>\n"
-                         "   <textitem_spherical>\n"
-                         "      <position>0, 0, 1</position>\n"
-                         "      <text>t</text>\n"
-                         "   </textitem_spherical>\n"
-                         "   <dimensioningitem_spherical type=\"3D\">\n"
-                         "      <point_3d>1, 0, 0</point_3d>\n"
-                         "      <point_3d>0, 1, 0</point_3d>\n"
-                         "   </dimensioningitem_spherical>\n");
+        }) << false << QByteArray("   <polygonitem>\n"
+                                  "      <point>1, 2</point>\n"
+                                  "   </polygonitem>\n");
     }
 
     void writesItems()
     {
         QFETCH(FillScene, fill);
+        QFETCH(bool, withGraph);
         QFETCH(QByteArray, body);
 
         SceneItemsTableModel model;
         ScanViewSceneGraph graph;
         fill(model, graph);
-        QCOMPARE(writeScene(model, &graph), documentHead + body + documentTail);
-    }
-
-    void withoutGraphOnlyPlanarItemsAreWritten()
-    {
-        SceneItemsTableModel model;
-        model.addItem(std::make_shared<TVXSPolygon>(QPolygonF({QPointF(1, 2)})));
-        QCOMPARE(writeScene(model, nullptr), documentHead
-                     + "   <polygonitem>\n"
-                       "      <point>1, 2</point>\n"
-                       "   </polygonitem>\n"
-                     + documentTail);
+        QCOMPARE(writeScene(model, withGraph ? &graph : nullptr), viewerDocument(body));
     }
 
     void escaping_data()
@@ -290,7 +203,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("attribute");
 
-        QTest::newRow("plain") << "3D" << "3D" << "3D";
         QTest::newRow("markup characters") << "a<b>&c" << "a&lt;b&gt;&amp;c" << "a&lt;b&gt;&amp;c";
         // "&" goes first, so the entities written for "<" and ">" are not escaped again.
         QTest::newRow("entity-like text") << "&lt;" << "&amp;lt;" << "&amp;lt;";

@@ -104,6 +104,25 @@ inline void openReadStream(QBuffer& buffer, QDataStream& stream, const QByteArra
     prepareScanFileStream(stream);
 }
 
+// What reading `section` from `bytes` gives: "read", "refused", or the read error's message.
+// `consumed` receives the bytes the read took.
+template <typename Section>
+QString readSection(Section& section, const QByteArray& bytes, qint64* consumed = nullptr)
+{
+    QBuffer buffer;
+    QDataStream stream;
+    openReadStream(buffer, stream, bytes);
+    QString outcome;
+    try {
+        outcome = section.read(stream) ? QStringLiteral("read") : QStringLiteral("refused");
+    } catch (const std::ios_base::failure& failure) {
+        outcome = QString::fromLatin1(failure.what());
+    }
+    if (consumed)
+        *consumed = buffer.pos();
+    return outcome;
+}
+
 // The five default sections, as a writer with nothing set would store them.
 inline std::vector<QByteArray> defaultSections()
 {

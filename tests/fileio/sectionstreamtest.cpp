@@ -134,17 +134,6 @@ private Q_SLOTS:
         QCOMPARE(int(stream.status()), status);
         QCOMPARE(buffer.atEnd(), atEnd);
     }
-
-    void unstorableVariants()
-    {
-        QVERIFY(!isStorableVariant(QVariant(QUuid::createUuid())));
-        QVERIFY(!isStorableVariant(QVariant(QVariantList{1, QVariant(QUuid())})));
-        QByteArray bytes;
-        QDataStream stream(&bytes, QIODevice::WriteOnly);
-        prepareScanFileStream(stream);
-        writeVariant(stream, QVariant(QUuid()));
-        QCOMPARE(stream.status(), QDataStream::WriteFailed);
-    }
 };
 
 TVX_TEST(SectionStreamTest)

@@ -35,7 +35,7 @@ std::shared_ptr<Item> withData(std::shared_ptr<Item> item, int seed)
     return item;
 }
 
-enum WriteFailure { DistanceTooLong, TileSizeZero, UnstorableMetaValue, PlainRecord, TwoPointRectangle, NoFolder };
+enum WriteFailure { DistanceTooLong, TileSizeZero, UnstorableMetaValue, PlainRecord, NoFolder };
 } // namespace
 
 // Everything the writer stores comes back through the reader; what it cannot store fails cleanly.
@@ -110,82 +110,25 @@ private Q_SLOTS:
         QCOMPARE(file.writerMajor(), 2022u);
         QCOMPARE(file.writerMinor(), 7u);
         QCOMPARE(file.writerPatch(), 9u);
-
-        const TVXFileScanInfo& read = file.scanInfo();
-        QCOMPARE(read.scanKind, 3u);
-        QCOMPARE(read.tileSize, 4u);
-        QCOMPARE(read.columns, 10u);
-        QCOMPARE(read.rows, 7u);
-        QCOMPARE(read.horizontalMax, M_PI);
-        QCOMPARE(read.verticalMin, -M_PI / 4);
-        QCOMPARE(read.transformation, info.transformation);
-        QCOMPARE(read.boundingBoxMin, info.boundingBoxMin);
-        QCOMPARE(read.boundingBoxMax, info.boundingBoxMax);
-        QCOMPARE(read.unnamedDouble, 0.25);
-        QCOMPARE(read.unnamedInteger, qint64(-7));
-        QCOMPARE(read.text, info.text);
-        QCOMPARE(read.channels.size(), 3u);
-        QCOMPARE(read.channels[2].parameter, 24u);
-        QCOMPARE(read.segments.size(), 2u);
-        QCOMPARE(read.segments[1].to, Vector3d(0, 0, 1));
-
-        QCOMPARE(file.layerTable().layers.size(), 2u);
-        QCOMPARE(file.layerTable().layers[0].name, QStringLiteral("A"));
-        QVERIFY(!file.layerTable().layers[0].flag1 && file.layerTable().layers[0].flag2);
+        // What was read writes the very bytes of what was set; a few values stand in for the rest.
+        QCOMPARE(sectionBytes(file.scanInfo()), sectionBytes(info));
+        QCOMPARE(file.scanInfo().segments[1].to, Vector3d(0, 0, 1));
+        QCOMPARE(sectionBytes(file.layerTable()), sectionBytes(writer.layerTable()));
         QCOMPARE(file.layerTable().layers[1].id, 6u);
-
-        for (quint32 tag : TVXFileMetaInfo::textTags())
-            QCOMPARE(file.metaInfo().text(tag), meta.text(tag));
-        QCOMPARE(file.metaInfo().dateTime, meta.dateTime);
-        QCOMPARE(file.metaInfo().number, 77u);
-        QCOMPARE(file.metaInfo().extra.keys(), QList<quint32>{0x149001});
-        QCOMPARE(file.metaInfo().extra.value(0x149001), meta.extra.value(0x149001));
-
-        const TVXFileReferenceInfo& references = file.referenceInfo();
-        QCOMPARE(references.name, QStringLiteral("Site grid"));
-        QVERIFY(references.flag);
-        QCOMPARE(references.objectCount(), 2);
-        const auto readPoint = std::dynamic_pointer_cast<TVXSReferencePoint>(references.object(0));
-        const auto readSphere = std::dynamic_pointer_cast<TVXSReferenceSphere>(references.object(1));
-        QVERIFY(readPoint && readPoint->kind() == 1 && readSphere);
-        QCOMPARE(readPoint->values(), point->values());
-        QVERIFY(readPoint->flag() && !readSphere->flag());
-        QCOMPARE(readSphere->radius(), 0.07);
-        QCOMPARE(readSphere->name(), QStringLiteral("S"));
-        QCOMPARE(readSphere->data().integers, itemData(2).integers);
-        QCOMPARE(readSphere->data().namedValues, itemData(2).namedValues);
-
-        const auto& items = file.sceneItems().items;
-        QCOMPARE(items.size(), 5u);
-        for (std::size_t i = 0; i < items.size(); ++i) {
-            const TVXSceneItemData expected = itemData(int(i) + 3);
-            QCOMPARE(items[i]->data().text, expected.text);
-            QCOMPARE(items[i]->data().integers, expected.integers);
-            QCOMPARE(items[i]->data().namedValues, expected.namedValues);
-            QCOMPARE(items[i]->data().numberedValues, expected.numberedValues);
-        }
-        QCOMPARE(std::dynamic_pointer_cast<TVXSPolygon>(items[0])->polygon(), QPolygonF({{1, 2}, {3, 4}, {5, 6}}));
-        QCOMPARE(std::dynamic_pointer_cast<TVXSRectangle>(items[1])->rectangle(), QRectF(1, 2, 3, 4));
-        QCOMPARE(std::dynamic_pointer_cast<TVXSEllipse>(items[2])->rectangle(), QRectF(5, 6, 7, 8));
-        const auto text = std::dynamic_pointer_cast<TVXSSimpleText>(items[3]);
-        QCOMPARE(text->text(), QStringLiteral("label"));
-        QCOMPARE(text->position(), QPointF(9, 10));
-        QCOMPARE(text->offset(), QPointF(-1, 2));
-        const auto dimensioning = std::dynamic_pointer_cast<TVXSDimensioning>(items[4]);
-        QCOMPARE(dimensioning->type(), 2u);
-        QCOMPARE(dimensioning->first(), QPointF(1, 1));
-        QCOMPARE(dimensioning->second(), QPointF(8, 5));
-
-        const auto readGraph = file.sceneGraph();
-        QCOMPARE(readGraph->itemCount(), 5u);
-        QCOMPARE(readGraph->polygons()[0]->points(), graph->polygons()[0]->points());
-        QCOMPARE(readGraph->rectangles()[0]->points(), graph->rectangles()[0]->points());
-        QCOMPARE(readGraph->ellipses()[0]->points(), graph->ellipses()[0]->points());
-        QCOMPARE(readGraph->textItems()[0]->text(), QStringLiteral("3D"));
-        QCOMPARE(readGraph->textItems()[0]->position(), Vector3d(0, -1, 0));
-        QCOMPARE(readGraph->measurementItems()[0]->type(), 1);
-        QCOMPARE(readGraph->measurementItems()[0]->first(), Vector3d(1, 0, 0));
-        QCOMPARE(readGraph->measurementItems()[0]->second(), Vector3d(0, 0, -1));
+        QCOMPARE(sectionBytes(file.metaInfo()), sectionBytes(meta));
+        QCOMPARE(file.metaInfo().extra.keys(), QList<quint32>{0x149001}); // the text's tag is left out
+        QCOMPARE(file.metaInfo().text(0x140002), QStringLiteral("text 140002"));
+        QCOMPARE(sectionBytes(file.referenceInfo()), sectionBytes(writer.referenceInfo()));
+        QCOMPARE(std::dynamic_pointer_cast<TVXSReferenceSphere>(file.referenceInfo().object(1))->radius(), 0.07);
+        const auto sceneBytes = [](const std::vector<TVXSceneItemPtr>& items, const ScanViewSceneGraph& graph) {
+            TVXFileSceneItems section;
+            section.items = items;
+            return streamBytes([&](QDataStream& s) { section.write(s, &graph); });
+        };
+        QCOMPARE(sceneBytes(file.sceneItems().items, *file.sceneGraph()), sceneBytes(writer.sceneItems2D(), *graph));
+        QCOMPARE(file.sceneGraph()->itemCount(), 5u);
+        QCOMPARE(std::dynamic_pointer_cast<TVXSSimpleText>(file.sceneItems().items[3])->offset(), QPointF(-1, 2));
+        QCOMPARE(file.sceneItems().items[4]->data().numberedValues, itemData(7).numberedValues);
 
         // The cells: raw channels of every cell through the single-value reads.
         for (quint32 c = 0; c < 10; ++c)
@@ -200,19 +143,6 @@ private Q_SLOTS:
             }
     }
 
-    void progress()
-    {
-        QTemporaryDir dir;
-        TVXFileWriter writer;
-        setGrid(writer.scanInfo(), 10, 7, 4, DistanceChannel);
-        QList<QPair<quint64, quint64>> calls;
-        writer.setProgress([&](quint64 done, quint64 total) { calls.append({done, total}); });
-        QVERIFY(writer.write(dir.filePath(QStringLiteral("p.tvx"))));
-        QVERIFY(calls.size() >= 2);
-        QCOMPARE(calls.front(), qMakePair(quint64(0), quint64(70)));
-        QCOMPARE(calls.back(), qMakePair(quint64(70), quint64(70)));
-    }
-
     void failures_data()
     {
         QTest::addColumn<int>("failure");
@@ -222,7 +152,6 @@ private Q_SLOTS:
         QTest::newRow("tile size 0") << int(TileSizeZero) << QStringLiteral("tile size");
         QTest::newRow("unstorable meta value") << int(UnstorableMetaValue) << QStringLiteral("meta information");
         QTest::newRow("plain record among the 2D items") << int(PlainRecord) << QStringLiteral("scene items");
-        QTest::newRow("3D rectangle of two points") << int(TwoPointRectangle) << QStringLiteral("scene items");
         QTest::newRow("missing folder") << int(NoFolder) << QStringLiteral("cannot write");
     }
 
@@ -255,12 +184,6 @@ private Q_SLOTS:
         case PlainRecord:
             writer.sceneItems2D().push_back(std::make_shared<TVXSceneItem>());
             break;
-        case TwoPointRectangle: {
-            auto rectangle = std::make_shared<ScanViewRectangle>();
-            rectangle->setPoints({{1, 0, 0}, {0, 1, 0}});
-            writer.scene3D()->addItem(rectangle);
-            break;
-        }
         case NoFolder:
             path = dir.filePath(QStringLiteral("missing/x.tvx"));
             break;

@@ -107,11 +107,6 @@ private Q_SLOTS:
 
         // Areas by hand: squares side², the L 3 units of 1×1, the U 3×3 less its 1×2 notch.
         QTest::newRow("square counter-clockwise") << Paths{square(0, 0, 10, true)} << 100.0;
-        QTest::newRow("square clockwise") << Paths{square(0, 0, 10, false)} << 100.0;
-        QTest::newRow("collinear points on every side")
-            << Paths{{{0, 0}, {5, 0}, {10, 0}, {10, 5}, {10, 10}, {5, 10}, {0, 10}, {0, 5}}} << 100.0;
-        QTest::newRow("repeated vertices") << Paths{{{0, 0}, {0, 0}, {10, 0}, {10, 10}, {10, 10}, {0, 10}}} << 100.0;
-        QTest::newRow("L shape") << Paths{{{0, 0}, {2, 0}, {2, 1}, {1, 1}, {1, 2}, {0, 2}}} << 3.0;
         QTest::newRow("U shape clockwise")
             << Paths{{{0, 3}, {1, 3}, {1, 1}, {2, 1}, {2, 3}, {3, 3}, {3, 0}, {0, 0}}} << 7.0;
         QTest::newRow("comb") << Paths{{{0, 0}, {9, 0}, {9, 5}, {8, 5}, {8, 1}, {6, 1}, {6, 5}, {5, 5}, {5, 1},
@@ -119,10 +114,6 @@ private Q_SLOTS:
                               << 9.0 + 4 * 4.0; // base 9×1 and four teeth of 1×4
         QTest::newRow("hole counter-rotating")
             << Paths{square(0, 0, 10, true), square(3, 3, 4, false)} << 100.0 - 16.0;
-        QTest::newRow("hole with the same orientation")
-            << Paths{square(0, 0, 10, false), square(3, 3, 4, false)} << 100.0 - 16.0;
-        QTest::newRow("two holes side by side")
-            << Paths{square(0, 0, 20, true), square(2, 2, 5, false), square(10, 2, 5, false)} << 400.0 - 50.0;
         // The right hole's rightmost vertex cannot bridge straight right through the second hole.
         QTest::newRow("holes in a row at one height")
             << Paths{square(0, 0, 30, true), square(2, 10, 5, false), square(12, 10, 5, false),
@@ -133,14 +124,12 @@ private Q_SLOTS:
         QTest::newRow("hole whose corner points at the outline's reflex corner")
             << Paths{{{0, 0}, {20, 0}, {20, 20}, {12, 20}, {10, 12}, {8, 20}, {0, 20}}, {{9, 2}, {11, 2}, {10, 8}}}
             << 400.0 - 4.0 * 8.0 / 2.0 - 2.0 * 6.0 / 2.0; // notch: base 4, height 8; hole: base 2, height 6
-        QTest::newRow("two separate squares") << Paths{square(0, 0, 3, true), square(10, 0, 2, false)} << 13.0;
         // Unsimplified input: the triangulation splits crossing edges itself.
         QTest::newRow("bow tie as drawn") << Paths{{{0, 0}, {20, 20}, {20, 0}, {0, 20}}}
                                           << 2 * 20.0 * 10.0 / 2.0; // two lobes of base 20, height 10
         QTest::newRow("outline traced twice") << Paths{{{0, 0}, {4, 0}, {4, 4}, {0, 4}, {0, 0}, {4, 0}, {4, 4}, {0, 4}}}
                                               << 0.0; // every point is crossed twice: even, so empty
         QTest::newRow("degenerate outline") << Paths{{{0, 0}, {5, 5}, {10, 10}}} << 0.0;
-        QTest::newRow("nothing") << Paths{} << 0.0;
     }
 
     void coversExactly()
@@ -158,9 +147,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("vertexCount");
         QTest::addColumn<int>("gridSize");
         QTest::newRow("5 vertices, fine grid") << 5 << 1000;
-        QTest::newRow("9 vertices, fine grid") << 9 << 1000;
-        QTest::newRow("16 vertices, fine grid") << 16 << 1000;
-        QTest::newRow("30 vertices, fine grid") << 30 << 1000;
         QTest::newRow("12 vertices, coarse grid with many collinear points") << 12 << 6;
     }
 

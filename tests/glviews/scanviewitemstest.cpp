@@ -49,14 +49,10 @@ private Q_SLOTS:
         // A square of corners (±0.1, ±0.1) in the plane x = 1; p1 is the corner between the two edges.
         const Vector3d p0(1, -0.1, 0.1), p1(1, -0.1, -0.1), p2(1, 0.1, -0.1);
         QTest::newRow("centre") << p0 << p1 << p2 << ahead(0, 0) << true;
-        QTest::newRow("near p1") << p0 << p1 << p2 << ahead(-0.09, -0.09) << true;
         // Only the quad's second triangle, reaching to p0 + p2 - p1, covers this one.
         QTest::newRow("near the derived fourth corner") << p0 << p1 << p2 << ahead(0.09, 0.09) << true;
         QTest::newRow("beyond an edge") << p0 << p1 << p2 << ahead(0.11, 0.0) << false;
         QTest::newRow("opposite direction") << p0 << p1 << p2 << -ahead(0, 0) << false;
-        QTest::newRow("longer direction") << p0 << p1 << p2 << ahead(0.05, 0.05) * 9.0 << true;
-        QTest::newRow("corners as unit directions") << p0.normalized() << p1.normalized() << p2.normalized()
-                                                    << ahead(0.0, 0.0) << true;
         // A parallelogram: p1 + s·(p2 - p1) + t·(p0 - p1); (0.15, 0.05) has s = 0.875, t = 0.75.
         const Vector3d skew0(1, 0.0, 0.1);
         QTest::newRow("parallelogram, inside its slanted part") << skew0 << p1 << p2 << ahead(0.15, 0.05) << true;
@@ -87,14 +83,7 @@ private Q_SLOTS:
 
         const Vector3d square(1, 0, 0.1), slanted(1, 0.1, 0.1);
         QTest::newRow("centre") << square << 0.0 << 0.0 << true;
-        QTest::newRow("just inside the first axis") << square << 0.99 << 0.0 << true;
         QTest::newRow("just beyond the first axis") << square << 1.01 << 0.0 << false;
-        QTest::newRow("just inside the second axis") << square << 0.0 << -0.99 << true;
-        QTest::newRow("diagonal inside") << square << 0.7 << 0.7 << true;   // 0.98
-        QTest::newRow("diagonal outside") << square << 0.72 << 0.72 << false; // 1.04
-        // Slanted axes: (0.2, 0.95) lies inside (0.04 + 0.9025 = 0.9425), though its projection onto
-        // the second axis alone (about 1.15) would place it outside.
-        QTest::newRow("slanted axes, inside") << slanted << 0.2 << 0.95 << true;
         QTest::newRow("slanted axes, outside") << slanted << 0.8 << 0.8 << false;
     }
 
@@ -126,7 +115,6 @@ private Q_SLOTS:
         QTest::newRow("on the anchor") << Vector3d(0, 0, 1) << 0.0 << true;
         QTest::newRow("within the pick angle") << Vector3d(0.3, -0.4, 0.2) << 0.8 << true;
         QTest::newRow("beyond the pick angle") << Vector3d(0.3, -0.4, 0.2) << 1.2 << false;
-        QTest::newRow("anchor of any length") << Vector3d(30, -40, 20) << 0.8 << true;
         QTest::newRow("opposite side") << Vector3d(1, 0, 0) << M_PI / itemPickAngle << false;
     }
 
@@ -153,18 +141,13 @@ private Q_SLOTS:
         const Vector3d x(1, 0, 0), y(0, 1, 0), z(0, 0, 1);
         const Vector3d middle = Vector3d(1, 1, 0).normalized();
         QTest::newRow("middle of the arc") << x << y << middle << true;
-        QTest::newRow("above the arc within the pick angle") << x << y << tilted(middle, z, 0.8 * itemPickAngle) << true;
         QTest::newRow("above the arc beyond the pick angle") << x << y << tilted(middle, z, 1.2 * itemPickAngle) << false;
-        QTest::newRow("past the first end within the pick angle") << x << y << tilted(x, -y, 0.8 * itemPickAngle) << true;
         QTest::newRow("past the first end beyond the pick angle") << x << y << tilted(x, -y, 1.2 * itemPickAngle) << false;
         // On the same great circle but off the shorter arc between the ends.
         QTest::newRow("on the great circle beyond the second end") << x << y << Vector3d(-1, 1, 0) << false;
-        QTest::newRow("opposite the middle") << x << y << -middle << false;
         QTest::newRow("ends not normalised") << x * 4.0 << y * 0.5 << tilted(middle, z, 0.8 * itemPickAngle) << true;
         QTest::newRow("both ends equal, on them") << y << y << y << true;
-        QTest::newRow("both ends equal, off them") << y << y << tilted(y, z, 1.2 * itemPickAngle) << false;
         QTest::newRow("zero end") << Vector3d() << y << y << false;
-        QTest::newRow("zero direction") << x << y << Vector3d() << false;
     }
 
     void measurementHit()
@@ -186,9 +169,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("kind");
         QTest::addColumn<int>("points");
-        QTest::newRow("rectangle without points") << 0 << 0;
         QTest::newRow("rectangle with two points") << 0 << 2;
-        QTest::newRow("ellipse with two points") << 1 << 2;
         QTest::newRow("text without its anchor") << 2 << 0;
         QTest::newRow("measurement with one point") << 3 << 1;
     }
@@ -218,22 +199,6 @@ private Q_SLOTS:
         item->setPoints(ahead);
         QVERIFY(!item->hitTest({1, 0, 0}));
         QVERIFY(!item->hitTest({1, 0.01, 0.01}));
-    }
-
-    // Every change of the points counts; attempts that change nothing do not.
-    void changeCounter()
-    {
-        ScanViewRectangle item(Vector3d(1, 0, 0), Vector3d(0, 1, 0), Vector3d(0, 0, 1));
-        QCOMPARE(item.changeCounter(), quint32(0));
-        item.setPoint(1, Vector3d(0, 2, 0));
-        item.setPoint(3, Vector3d(0, 2, 0)); // no fourth point: ignored
-        QCOMPARE(item.changeCounter(), quint32(1));
-        item.appendPoint(Vector3d(1, 1, 1));
-        item.removeLastPoint();
-        QCOMPARE(item.changeCounter(), quint32(3));
-        item.setPoints({});
-        item.removeLastPoint(); // nothing left: ignored
-        QCOMPARE(item.changeCounter(), quint32(4));
     }
 };
 

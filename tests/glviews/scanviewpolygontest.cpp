@@ -61,7 +61,6 @@ QPolygonF scaled(const QVector<QPointF>& points, double factor)
 // Shapes in tenths of the plane's unit.
 const QPolygonF square = scaled({{-1, -1}, {1, -1}, {1, 1}, {-1, 1}}, 0.1);
 const QPolygonF bowTie = scaled({{-1, -1}, {1, 1}, {1, -1}, {-1, 1}}, 0.1);
-const QPolygonF lShape = scaled({{0, 0}, {2, 0}, {2, 1}, {1, 1}, {1, 2}, {0, 2}}, 0.1);
 const QPolygonF uShape = scaled({{0, 0}, {3, 0}, {3, 3}, {2, 3}, {2, 1}, {1, 1}, {1, 3}, {0, 3}}, 0.1);
 // A square ring drawn as one outline: round the outside, along a slit, round the inside backwards
 // and back along the slit; the slit has no width, so the inner square stays open.
@@ -93,10 +92,7 @@ private Q_SLOTS:
         QTest::addColumn<double>("expectedArea"); // in the drawing plane
 
         QTest::newRow("three vertices") << scaled({{0, 0}, {2, 0}, {0, 1}}, 0.1) << 0.0 << 0.01; // 0.2 · 0.1 / 2
-        QTest::newRow("square") << square << 0.0 << 0.04;
-        QTest::newRow("square clockwise") << QPolygonF(QVector<QPointF>(square.rbegin(), square.rend())) << 0.0 << 0.04;
         QTest::newRow("square turned half way round") << square << 2.5 << 0.04;
-        QTest::newRow("L shape") << lShape << -1.0 << 0.03; // three cells of 0.1 · 0.1
         QTest::newRow("U shape") << uShape << 0.0 << 0.07; // 3 · 3 cells less the 1 · 2 notch
         QTest::newRow("bow tie") << bowTie << 0.7 << 0.02; // two lobes of base 0.2 and height 0.1
         QTest::newRow("keyhole") << keyhole << 0.0 << 0.12; // 4 · 4 cells less the open 2 · 2
@@ -132,26 +128,16 @@ private Q_SLOTS:
         QTest::newRow("bow tie, left lobe") << bowTie << 0.0 << QPointF(-0.07, 0.0) << true;
         QTest::newRow("bow tie, right lobe") << bowTie << 0.0 << QPointF(0.07, 0.01) << true;
         QTest::newRow("bow tie, above the crossing") << bowTie << 0.0 << QPointF(0.0, 0.07) << false;
-        QTest::newRow("bow tie, below the crossing") << bowTie << 0.0 << QPointF(0.01, -0.07) << false;
         QTest::newRow("bow tie turned, left lobe") << bowTie << -2.0 << QPointF(-0.07, 0.0) << true;
         QTest::newRow("bow tie turned, above the crossing") << bowTie << -2.0 << QPointF(0.0, 0.07) << false;
-        QTest::newRow("triangle, inside") << scaled({{0, 0}, {2, 0}, {0, 1}}, 0.1) << 0.0 << QPointF(0.05, 0.02) << true;
-        QTest::newRow("triangle, beyond its long side")
-            << scaled({{0, 0}, {2, 0}, {0, 1}}, 0.1) << 0.0 << QPointF(0.12, 0.05) << false;
         QTest::newRow("two vertices, on the segment") << scaled({{-1, 0}, {1, 0}}, 0.1) << 0.0 << QPointF(0, 0) << false;
-        QTest::newRow("one vertex, on it") << scaled({{0, 0}}, 0.1) << 0.0 << QPointF(0, 0) << false;
         QTest::newRow("no vertex") << QPolygonF() << 0.0 << QPointF(0, 0) << false;
-        QTest::newRow("L shape, arm") << lShape << 0.0 << QPointF(0.05, 0.15) << true;
-        QTest::newRow("L shape, notch") << lShape << 0.0 << QPointF(0.15, 0.15) << false;
         QTest::newRow("U shape, left prong") << uShape << 1.0 << QPointF(0.05, 0.25) << true;
-        QTest::newRow("U shape, right prong") << uShape << 1.0 << QPointF(0.25, 0.25) << true;
-        QTest::newRow("U shape, base") << uShape << 1.0 << QPointF(0.15, 0.05) << true;
         QTest::newRow("U shape, notch") << uShape << 1.0 << QPointF(0.15, 0.2) << false;
         QTest::newRow("keyhole, ring") << keyhole << 0.0 << QPointF(0.2, 0.35) << true;
         QTest::newRow("keyhole, open middle") << keyhole << 0.0 << QPointF(0.2, 0.2) << false;
         QTest::newRow("pentagram, a point") << pentagram() << 0.0 << QPointF(0.0, 0.15) << true;
         QTest::newRow("pentagram, centre") << pentagram() << 0.0 << QPointF(0.0, 0.0) << false;
-        QTest::newRow("square, outside") << square << 0.0 << QPointF(0.3, 0.0) << false;
     }
 
     void hitTest()
@@ -181,7 +167,6 @@ private Q_SLOTS:
         QTest::newRow("vertex moved") << "move" << true << QPointF(0.15, 0.12) << false << true;
         QTest::newRow("vertex appended") << "append" << true << QPointF(-0.15, 0.0) << false << true;
         QTest::newRow("last vertex removed") << "remove" << true << QPointF(-0.05, 0.05) << true << false;
-        QTest::newRow("vertices replaced") << "replace" << true << QPointF(0.6, 0.6) << false << true;
         QTest::newRow("index out of range") << "move beyond" << false << QPointF(0.0, 0.0) << true << true;
         QTest::newRow("nothing") << "" << false << QPointF(0.0, 0.0) << true << true;
     }
@@ -209,8 +194,6 @@ private Q_SLOTS:
             polygon.appendPoint(toward({-0.3, 0.0}, 0.0));
         else if (change == "remove")
             polygon.removeLastPoint();
-        else if (change == "replace")
-            polygon.setPoints(directions(scaled({{5, 5}, {7, 5}, {7, 7}, {5, 7}}, 0.1), 0.0));
         QCOMPARE(polygon.changeCounter(), counter + (changes ? 1 : 0));
 
         // Whichever asks first, the mesh is rebuilt once and then shared.
@@ -220,47 +203,15 @@ private Q_SLOTS:
         QCOMPARE(polygon.meshBuildCount(), quint32(changes ? 2 : 1));
     }
 
-    // The projected outline lives on a grid of a millionth of the plane's unit.
-    void projectionGrid_data()
-    {
-        QTest::addColumn<double>("side");
-        QTest::addColumn<bool>("filled");
-        // Vertices a hundredth of a grid step apart fall on one grid point; five steps apart they do not.
-        QTest::newRow("square of side 1e-8 merges to a point") << 1e-8 << false;
-        QTest::newRow("square of side 5e-6 keeps its area") << 5e-6 << true;
-        QTest::newRow("square of side 1e-3") << 1e-3 << true;
-    }
-
-    void projectionGrid()
-    {
-        QFETCH(double, side);
-        QFETCH(bool, filled);
-
-        // Four vertices around a centre off the axes, so that the fill plane is a tilted one.
-        const QPolygonF tiny = scaled({{0, 0}, {1, 0}, {1, 1}, {0, 1}}, side).translated(0.3, -0.2);
-        const ScanViewPolygon polygon(directions(tiny, 0.4));
-        QCOMPARE(!polygon.fillMesh().indices.empty(), filled);
-        QCOMPARE(polygon.hitTest(toward(tiny.boundingRect().center(), 0.4)), filled);
-        if (filled) {
-            // The corners may each move by half a grid step: at five steps a side, 20 % of the area.
-            const double area = meshAreaInDrawingPlane(polygon.fillMesh(), 0.4);
-            QVERIFY2(std::abs(area - side * side) <= 0.25 * side * side, qPrintable(QString::number(area)));
-        }
-    }
-
     void badVerticesNeverBreakTheMesh_data()
     {
         QTest::addColumn<QString>("extra");  // one more vertex after the square's four
         QTest::addColumn<bool>("squareHit"); // whether the square's centre is still hit
 
         QTest::newRow("not a number") << "nan" << true;
-        QTest::newRow("infinite") << "inf" << true;
-        QTest::newRow("zero vector") << "zero" << true;
-        QTest::newRow("behind the station") << "behind" << true;
         // Some 76° from the mean direction, it still projects: its wedge back to the first vertex
         // crosses the square's middle, which the even-odd rule then leaves open.
         QTest::newRow("far to the side") << "side" << false;
-        QTest::newRow("huge but finite, on the outline") << "huge" << true;
         QTest::newRow("outline of opposite pairs") << "opposites" << false;
     }
 
@@ -271,19 +222,10 @@ private Q_SLOTS:
 
         std::vector<Vector3d> vertices = directions(square, 0.0);
         const double nan = std::numeric_limits<double>::quiet_NaN();
-        const double inf = std::numeric_limits<double>::infinity();
         if (extra == "nan")
             vertices.push_back({nan, 0.0, 1.0});
-        else if (extra == "inf")
-            vertices.push_back({inf, inf, 0.0});
-        else if (extra == "zero")
-            vertices.push_back({});
-        else if (extra == "behind")
-            vertices.push_back({-1.0, 0.0, 0.0});
         else if (extra == "side")
             vertices.push_back({0.0, 1.0, 0.0});
-        else if (extra == "huge")
-            vertices.push_back(toward({-0.1, 0.0}, 0.0) * 1e300); // on the square's left side
         else if (extra == "opposites")
             vertices = {{1, 0, 0}, {-1, 0, 0}, {0, 1, 0}, {0, -1, 0}};
 

@@ -2,6 +2,8 @@
 
 // Test data of the project tests: project files put together by hand from the format's table, and
 // small scans written with the project's own scan writer.
+#include "testfiles.h"
+
 #include "annotations/tvxsreferencesphere.h"
 #include "fileio/tvxfilereferenceinfo.h"
 #include "fileio/tvxfilescaninfo.h"
@@ -129,18 +131,6 @@ inline QString describe(const CORE::ProjectItemPtr& item)
     for (int i = 0; i < folder->childCount(); ++i)
         children << describe(folder->child(i));
     return QStringLiteral("%1%2(%3)").arg(item->name(), flag, children.join(QLatin1Char(' ')));
-}
-
-inline bool writeBytes(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size();
-}
-
-inline QByteArray readBytes(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 // The cells of the test scans: colour, intensity and distance follow from column and row, so a

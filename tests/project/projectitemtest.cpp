@@ -14,20 +14,10 @@ class ProjectItemTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void foldersComeBeforeScans_data()
-    {
-        QTest::addColumn<int>("folders");
-        QTest::addColumn<int>("scans");
-        QTest::newRow("empty") << 0 << 0;
-        QTest::newRow("two folders, three scans") << 2 << 3;
-        QTest::newRow("scans only") << 0 << 4;
-        QTest::newRow("folders only") << 3 << 0;
-    }
-
     void foldersComeBeforeScans()
     {
-        QFETCH(int, folders);
-        QFETCH(int, scans);
+        const int folders = 2;
+        const int scans = 3;
         // Scans are added first, folders afterwards: the children still list folders first.
         const auto root = ProjectItemScanGroup::create(QStringLiteral("scans"));
         for (int i = 0; i < scans; ++i)

@@ -1,37 +1,17 @@
 #include "testregistry.h"
+#include "toolrun.h"
 
 #include "../project/projectfixtures.h"
 
 #include <QDir>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace TVX::TEST;
 
 namespace {
-
-struct ToolRun {
-    int exitCode = -1;
-    QByteArray out;
-    QByteArray err;
-};
-
-ToolRun runTool(const QStringList& arguments)
-{
-    QProcess process;
-    process.start(QStringLiteral(TVX_BIN_DIR "/tvxtool"), arguments);
-    ToolRun run;
-    if (!process.waitForFinished(60000))
-        return run;
-    run.exitCode = process.exitCode();
-    run.out = process.readAllStandardOutput();
-    run.err = process.readAllStandardError();
-    return run;
-}
 
 QJsonArray numbers(std::initializer_list<double> values)
 {
@@ -86,15 +66,9 @@ private Q_SLOTS:
         QVERIFY(writeBytes(dir.filePath(QStringLiteral("site.tvxprj")), build(fields)));
 
         // A relative argument is printed as an absolute path.
-        QProcess process;
-        process.setWorkingDirectory(dir.path());
-        process.start(QStringLiteral(TVX_BIN_DIR "/tvxtool"), {QStringLiteral("project"), QStringLiteral("site.tvxprj")});
-        QVERIFY(process.waitForFinished(60000));
-        QCOMPARE(process.exitCode(), 0);
-        QCOMPARE(process.readAllStandardError(), QByteArray());
-        QJsonParseError error;
-        const QJsonObject json = QJsonDocument::fromJson(process.readAllStandardOutput(), &error).object();
-        QCOMPARE(error.error, QJsonParseError::NoError);
+        const ToolRun run = runTool({QStringLiteral("project"), QStringLiteral("site.tvxprj")}, dir.path());
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.err, QByteArray());
 
         const QJsonObject expected{
             {"path", QDir(dir.path()).filePath(QStringLiteral("site.tvxprj"))},
@@ -107,7 +81,7 @@ private Q_SLOTS:
             {"tree", folderNode("scans", true,
                                 {folderNode("Facade", true, {scanNode("north", 0, true)}), scanNode("süd", 1, true),
                                  scanNode("east", 2, false)})}};
-        QCOMPARE(json, expected);
+        QCOMPARE(run.json(), expected);
     }
 
     void unreadableFileGivesTheOpenMessage_data()

@@ -1,6 +1,7 @@
 #include "fileio/sectionstream.h"
 
 #include "annotations/tvxsceneitem.h"
+#include "fileio/filereaderror.h"
 #include "fileio/scanfilelog.h"
 
 #include <QBitArray>
@@ -32,6 +33,28 @@ void prepareScanFileStream(QDataStream& stream)
     stream.setByteOrder(QDataStream::BigEndian);
     stream.setVersion(QDataStream::Qt_4_6);
     stream.setFloatingPointPrecision(QDataStream::DoublePrecision);
+}
+
+bool readTag(QDataStream& stream, quint32 tag)
+{
+    quint32 read = 0;
+    stream >> read;
+    return read == tag;
+}
+
+bool readBeginTag(QDataStream& stream, quint32 beginTag)
+{
+    stream.setFloatingPointPrecision(QDataStream::DoublePrecision);
+    return readTag(stream, beginTag);
+}
+
+bool finishSection(QDataStream& stream, quint32 endTag, const char* module, int line)
+{
+    if (!readTag(stream, endTag))
+        return false;
+    if (!streamOk(stream))
+        throw fileReadError(module, line);
+    return true;
 }
 
 qint64 bytesLeft(const QDataStream& stream)
@@ -178,6 +201,24 @@ QVariant held(const T& value, bool isNull)
 
 void readVariantAt(QDataStream& stream, QVariant& value, int depth);
 
+// A u32 count, then that many items of at least `minItemBytes` each, read by `readItem` while the
+// stream stays readable; none when the count cannot fit.
+template <typename List, typename ReadItem>
+List readCounted(QDataStream& stream, quint64 minItemBytes, ReadItem readItem)
+{
+    quint32 count = 0;
+    stream >> count;
+    List list;
+    if (!fitsCount(stream, count, minItemBytes))
+        return list;
+    for (quint32 i = 0; i < count && readable(stream); ++i) {
+        typename List::value_type item{};
+        readItem(item);
+        list.append(item);
+    }
+    return list;
+}
+
 template <typename Container>
 void readStringKeyed(QDataStream& stream, Container& container, int depth)
 {
@@ -251,30 +292,16 @@ void readVariantAt(QDataStream& stream, QVariant& value, int depth)
         return;
     }
     case StringList: {
-        quint32 count = 0;
-        stream >> count;
-        QStringList list;
-        if (fitsCount(stream, count, minStringBytes)) {
-            for (quint32 i = 0; i < count && readable(stream); ++i) {
-                QString string;
-                readString(stream, string);
-                list.append(string);
-            }
-        }
+        const auto list = readCounted<QStringList>(stream, minStringBytes, [&stream](QString& string) {
+            readString(stream, string);
+        });
         value = held(list, isNull);
         return;
     }
     case List: {
-        quint32 count = 0;
-        stream >> count;
-        QVariantList list;
-        if (fitsCount(stream, count, minVariantBytes)) {
-            for (quint32 i = 0; i < count && readable(stream); ++i) {
-                QVariant item;
-                readVariantAt(stream, item, depth + 1);
-                list.append(item);
-            }
-        }
+        const auto list = readCounted<QVariantList>(stream, minVariantBytes, [&stream, depth](QVariant& item) {
+            readVariantAt(stream, item, depth + 1);
+        });
         value = held(list, isNull);
         return;
     }

@@ -19,6 +19,13 @@ struct TVXSceneItemData;
 // Big-endian, stream version 12 (Qt 4.6), doubles as 8 bytes.
 void prepareScanFileStream(QDataStream& stream);
 
+// A section's frame. readTag tells whether the next u32 is `tag`; readBeginTag first sets doubles
+// to 8 bytes. finishSection reads the end tag and, when it matches but the stream failed before it,
+// throws the read error of `module` at `line`.
+bool readTag(QDataStream& stream, quint32 tag);
+bool readBeginTag(QDataStream& stream, quint32 beginTag);
+bool finishSection(QDataStream& stream, quint32 endTag, const char* module, int line);
+
 inline bool streamOk(const QDataStream& stream)
 {
     return stream.status() == QDataStream::Ok;

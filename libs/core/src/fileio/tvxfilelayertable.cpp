@@ -21,10 +21,7 @@ void TVXFileLayerTable::reset()
 bool TVXFileLayerTable::read(QDataStream& stream)
 {
     reset();
-    stream.setFloatingPointPrecision(QDataStream::DoublePrecision);
-    quint32 tag = 0;
-    stream >> tag;
-    if (tag != beginTag)
+    if (!readBeginTag(stream, beginTag))
         return false;
     quint32 count = 0;
     stream >> count;
@@ -39,9 +36,7 @@ bool TVXFileLayerTable::read(QDataStream& stream)
             read.push_back(layer);
         }
     }
-    tag = 0;
-    stream >> tag;
-    if (tag != endTag || !streamOk(stream))
+    if (!readTag(stream, endTag) || !streamOk(stream))
         return false;
     layers = std::move(read);
     return true;

@@ -59,11 +59,9 @@ void TVXFileMetaInfo::reset()
 bool TVXFileMetaInfo::read(QDataStream& stream)
 {
     reset();
-    stream.setFloatingPointPrecision(QDataStream::DoublePrecision);
-    quint32 tag = 0;
-    stream >> tag;
-    if (tag != beginTag)
+    if (!readBeginTag(stream, beginTag))
         return false;
+    quint32 tag = 0;
     // Every pass consumes at least the tag, and a stream at its end fails the value: this ends.
     for (stream >> tag; tag != endTag; stream >> tag) {
         if (const int index = textIndex(tag); index >= 0) {

@@ -2,7 +2,6 @@
 
 #include "annotations/tvxsreferencepoint.h"
 #include "annotations/tvxsreferencesphere.h"
-#include "fileio/filereaderror.h"
 #include "fileio/scanfilelog.h"
 #include "fileio/sectionstream.h"
 
@@ -61,10 +60,7 @@ void TVXFileReferenceInfo::reset()
 bool TVXFileReferenceInfo::read(QDataStream& stream)
 {
     reset();
-    stream.setFloatingPointPrecision(QDataStream::DoublePrecision);
-    quint32 tag = 0;
-    stream >> tag;
-    if (tag != beginTag)
+    if (!readBeginTag(stream, beginTag))
         return false;
     stream >> flag;
     readString(stream, name);
@@ -75,13 +71,7 @@ bool TVXFileReferenceInfo::read(QDataStream& stream)
             if (auto object = readEntry(stream))
                 m_objects.push_back(object);
     }
-    tag = 0;
-    stream >> tag;
-    if (tag != endTag)
-        return false;
-    if (!streamOk(stream))
-        throw fileReadError(module, streamErrorLine);
-    return true;
+    return finishSection(stream, endTag, module, streamErrorLine);
 }
 
 void TVXFileReferenceInfo::write(QDataStream& stream) const

@@ -1,6 +1,5 @@
 #include "fileio/tvxfilescaninfo.h"
 
-#include "fileio/filereaderror.h"
 #include "fileio/sectionstream.h"
 
 #include <algorithm>
@@ -51,10 +50,7 @@ void TVXFileScanInfo::reset()
 bool TVXFileScanInfo::read(QDataStream& stream)
 {
     reset();
-    stream.setFloatingPointPrecision(QDataStream::DoublePrecision);
-    quint32 tag = 0;
-    stream >> tag;
-    if (tag != beginTag)
+    if (!readBeginTag(stream, beginTag))
         return false;
     readVector(stream, boundingBoxMin);
     readVector(stream, boundingBoxMax);
@@ -88,13 +84,7 @@ bool TVXFileScanInfo::read(QDataStream& stream)
         }
     }
 
-    tag = 0;
-    stream >> tag;
-    if (tag != endTag)
-        return false;
-    if (!streamOk(stream))
-        throw fileReadError(module, streamErrorLine);
-    return true;
+    return finishSection(stream, endTag, module, streamErrorLine);
 }
 
 void TVXFileScanInfo::write(QDataStream& stream) const

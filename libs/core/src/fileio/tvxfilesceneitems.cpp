@@ -245,10 +245,7 @@ void TVXFileSceneItems::reset()
 bool TVXFileSceneItems::read(QDataStream& stream, ScanViewSceneGraph* graph)
 {
     reset();
-    stream.setFloatingPointPrecision(QDataStream::DoublePrecision);
-    quint32 tag = 0;
-    stream >> tag;
-    if (tag != beginTag)
+    if (!readBeginTag(stream, beginTag))
         return false;
     quint32 count = 0;
     stream >> count;
@@ -257,9 +254,7 @@ bool TVXFileSceneItems::read(QDataStream& stream, ScanViewSceneGraph* graph)
     for (quint32 i = 0; i < count; ++i)
         if (!readItem(stream, graph, items))
             return false;
-    tag = 0;
-    stream >> tag;
-    return tag == endTag && streamOk(stream);
+    return readTag(stream, endTag) && streamOk(stream);
 }
 
 void TVXFileSceneItems::write(QDataStream& stream, const ScanViewSceneGraph* graph) const

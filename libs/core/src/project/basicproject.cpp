@@ -61,6 +61,32 @@ bool sampleOfTile(const TVXFileTile& tile, quint32 column, quint32 row, CellSamp
     return true;
 }
 
+// The tile asked for last, so that neighbouring cells ask the tile cache once per tile.
+struct LastTile {
+    TVXFileTilePtr tile;
+    quint32 column{0};
+    quint32 row{0};
+    bool read{false};
+};
+
+// A cell of the scan at `index` (the tile cache's key); false outside the grid or when its tile
+// cannot be read.
+bool sampleThroughCache(TVXFileTileCache& cache, quint32 index, TVXFile& file, qint64 column, qint64 row,
+                        LastTile& last, CellSample& sample)
+{
+    const TVXFileScanInfo& info = file.scanInfo();
+    if (info.tileSize == 0 || !insideGrid(column, row, info))
+        return false;
+    const quint32 tileColumn = quint32(column) / info.tileSize;
+    const quint32 tileRow = quint32(row) / info.tileSize;
+    if (!last.tile || tileColumn != last.column || tileRow != last.row) {
+        last.column = tileColumn;
+        last.row = tileRow;
+        last.read = cache.lookup(index, file, tileColumn, tileRow, last.tile);
+    }
+    return last.read && sampleOfTile(*last.tile, quint32(column), quint32(row), sample);
+}
+
 } // namespace
 
 struct BasicProject::Private {
@@ -491,16 +517,10 @@ bool BasicProject::scanPose(quint32 scanId, ScanPose& pose) const
 bool BasicProject::cellSample(quint32 scanId, qint32 column, qint32 row, CellSample& sample)
 {
     const int index = scanIndex(scanId);
-    if (index < 0)
-        return false;
-    TVXFile& file = *d->scans[std::size_t(index)].file;
-    const TVXFileScanInfo& info = file.scanInfo();
-    const quint32 tileSize = info.tileSize;
-    if (tileSize == 0 || !insideGrid(column, row, info))
-        return false;
-    TVXFileTilePtr tile;
-    return d->tileCache.lookup(quint32(index), file, quint32(column) / tileSize, quint32(row) / tileSize, tile)
-           && sampleOfTile(*tile, quint32(column), quint32(row), sample);
+    LastTile last;
+    return index >= 0
+           && sampleThroughCache(d->tileCache, quint32(index), *d->scans[std::size_t(index)].file, column, row, last,
+                                 sample);
 }
 
 bool BasicProject::paintLensPicture(quint32 scanId, qint32 column, qint32 row, int radius, QImage& image)
@@ -509,28 +529,14 @@ bool BasicProject::paintLensPicture(quint32 scanId, qint32 column, qint32 row, i
     if (index < 0)
         return false;
     TVXFile& file = *d->scans[std::size_t(index)].file;
-    const TVXFileScanInfo& info = file.scanInfo();
-    const quint32 tileSize = info.tileSize;
-    if (tileSize == 0)
-        return true;
-    TVXFileTilePtr tile;
-    bool tileRead = false;
-    quint32 tileColumn = 0, tileRow = 0;
+    LastTile last;
     for (int dr = -radius; dr <= radius; ++dr) {
         for (int dc = -radius; dc <= radius; ++dc) {
-            const qint64 c = qint64(column) + dc;
-            const qint64 r = qint64(row) + dr;
-            if (!insideGrid(c, r, info) || !image.valid(radius + dc, radius + dr))
-                continue;
-            const quint32 tc = quint32(c) / tileSize;
-            const quint32 tr = quint32(r) / tileSize;
-            if (!tile || tc != tileColumn || tr != tileRow) {
-                tileColumn = tc;
-                tileRow = tr;
-                tileRead = d->tileCache.lookup(quint32(index), file, tc, tr, tile);
-            }
             CellSample sample;
-            if (tileRead && sampleOfTile(*tile, quint32(c), quint32(r), sample) && sample.hasColour)
+            if (image.valid(radius + dc, radius + dr)
+                && sampleThroughCache(d->tileCache, quint32(index), file, qint64(column) + dc, qint64(row) + dr, last,
+                                      sample)
+                && sample.hasColour)
                 image.setPixel(radius + dc, radius + dr, qRgb(sample.red, sample.green, sample.blue));
         }
     }
