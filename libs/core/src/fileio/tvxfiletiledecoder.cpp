@@ -50,20 +50,18 @@ bool TVXFileTileDecoder::decode(quint32 tileColumn, quint32 tileRow, const char*
         return false;
 
     // Tables for this tile's columns and rows; their size is bounded by the bytes given.
-    m_columnCos.resize(bounds.width);
-    m_columnSin.resize(bounds.width);
-    for (quint32 i = 0; i < bounds.width; ++i) {
-        const double angle = columnAngle(bounds.firstColumn + i, m_grid);
-        m_columnCos[i] = std::cos(angle);
-        m_columnSin[i] = std::sin(angle);
-    }
-    m_rowCos.resize(bounds.height);
-    m_rowSin.resize(bounds.height);
-    for (quint32 j = 0; j < bounds.height; ++j) {
-        const double angle = rowAngle(bounds.firstRow + j, m_grid);
-        m_rowCos[j] = std::cos(angle);
-        m_rowSin[j] = std::sin(angle);
-    }
+    auto fillTables = [this](quint32 first, quint32 count, double (*angleOf)(quint32, const GridAngles&),
+                             std::vector<double>& cosines, std::vector<double>& sines) {
+        cosines.resize(count);
+        sines.resize(count);
+        for (quint32 i = 0; i < count; ++i) {
+            const double angle = angleOf(first + i, m_grid);
+            cosines[i] = std::cos(angle);
+            sines[i] = std::sin(angle);
+        }
+    };
+    fillTables(bounds.firstColumn, bounds.width, columnAngle, m_columnCos, m_columnSin);
+    fillTables(bounds.firstRow, bounds.height, rowAngle, m_rowCos, m_rowSin);
 
     const std::size_t cells = std::size_t(bounds.width) * bounds.height;
     tile.firstColumn = bounds.firstColumn;
