@@ -1,6 +1,6 @@
 // Fill mesh and hit test of spherical polygons: a drawn outline of n vertices, once round and
 // simple, once zig-zagging across itself so that the even-odd split has much to do.
-#include "glviews/scanviewpolygon.h"
+#include "scene/scanviewpolygon.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,7 +1,7 @@
 #include "testregistry.h"
 
 #include "annotations/sceneitemstablemodel.h"
-#include "annotations/tvxsrectangle.h"
+#include "scene/tvxsrectangle.h"
 
 #include <QSignalSpy>
 #include <QTest>

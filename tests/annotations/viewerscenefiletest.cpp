@@ -4,8 +4,8 @@
 
 #include "annotations/annotationfile.h"
 #include "annotations/sceneitemstablemodel.h"
-#include "annotations/tvxspolygon.h"
-#include "glviews/scanviewscenegraph.h"
+#include "scene/tvxspolygon.h"
+#include "scene/scanviewscenegraph.h"
 
 #include <QDir>
 #include <QFile>

@@ -4,7 +4,7 @@
 
 #include "annotations/sceneitemstablemodel.h"
 #include "annotations/viewerscenereader.h"
-#include "glviews/scanviewscenegraph.h"
+#include "scene/scanviewscenegraph.h"
 
 #include <QBuffer>
 #include <QCoreApplication>

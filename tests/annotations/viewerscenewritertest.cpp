@@ -2,14 +2,14 @@
 #include "viewerscenefixture.h"
 
 #include "annotations/sceneitemstablemodel.h"
-#include "annotations/tvxsdimensioning.h"
-#include "annotations/tvxsellipse.h"
-#include "annotations/tvxspolygon.h"
-#include "annotations/tvxsrectangle.h"
-#include "annotations/tvxsreferencepoint.h"
-#include "annotations/tvxssimpletext.h"
+#include "scene/tvxsdimensioning.h"
+#include "scene/tvxsellipse.h"
+#include "scene/tvxspolygon.h"
+#include "scene/tvxsrectangle.h"
+#include "scene/tvxsreferencepoint.h"
+#include "scene/tvxssimpletext.h"
 #include "annotations/viewerscenewriter.h"
-#include "glviews/scanviewscenegraph.h"
+#include "scene/scanviewscenegraph.h"
 
 #include <QBuffer>
 #include <QTest>

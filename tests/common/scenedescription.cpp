@@ -1,11 +1,11 @@
 #include "scenedescription.h"
 
-#include "annotations/tvxsdimensioning.h"
-#include "annotations/tvxsellipse.h"
-#include "annotations/tvxspolygon.h"
-#include "annotations/tvxsrectangle.h"
-#include "annotations/tvxssimpletext.h"
-#include "glviews/scanviewscenegraph.h"
+#include "scene/tvxsdimensioning.h"
+#include "scene/tvxsellipse.h"
+#include "scene/tvxspolygon.h"
+#include "scene/tvxsrectangle.h"
+#include "scene/tvxssimpletext.h"
+#include "scene/scanviewscenegraph.h"
 
 namespace TVX::TEST {
 

@@ -1,9 +1,13 @@
 #include "testregistry.h"
 
+#ifdef TVX_TEST_WIDGETS
 #include "glviews/glsurfaceformat.h"
 #include "mainwindow/coreresources.h"
 
 #include <QApplication>
+#else
+#include <QGuiApplication>
+#endif
 #include <QStandardPaths>
 #include <QTest>
 
@@ -32,6 +36,7 @@ int registerTest(const char* className, TestFactory factory)
 
 } // namespace TVX::TEST
 
+#ifdef TVX_TEST_WIDGETS
 namespace {
 // Mesa unloads its software driver when the display closes, and the driver's own leaks would then
 // be reported against an unknown module that no suppression can name. Keeping it loaded lets the
@@ -42,16 +47,21 @@ void pinSoftwareGLDriver()
         dlopen("/usr/lib/x86_64-linux-gnu/dri/swrast_dri.so", RTLD_NOW | RTLD_NODELETE);
 }
 } // namespace
+#endif
 
 // Usage: tests_<folder> [CLASS [QtTest options]]; without a class every registered class runs.
 int main(int argc, char** argv)
 {
     // Settings written by tests go to a throw-away location, never to the user's own store.
     QStandardPaths::setTestModeEnabled(true);
+#ifdef TVX_TEST_WIDGETS
     pinSoftwareGLDriver();
     TVX::CORE::installCompatibilityGLFormat();
     QApplication app(argc, argv);
     TVX::CORE::registerCoreResources();
+#else
+    QGuiApplication app(argc, argv);
+#endif
 
     auto& tests = TVX::TEST::registry();
     if (argc > 1 && argv[1][0] != '-') {

@@ -1,7 +1,7 @@
 #include "testregistry.h"
 
-#include "annotations/tvxsreferencepoint.h"
-#include "annotations/tvxsreferencesphere.h"
+#include "scene/tvxsreferencepoint.h"
+#include "scene/tvxsreferencesphere.h"
 #include "scanfixture.h"
 
 #include <QTest>

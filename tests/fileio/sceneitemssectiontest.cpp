@@ -1,7 +1,7 @@
 #include "scenedescription.h"
 #include "testregistry.h"
 
-#include "glviews/scanviewscenegraph.h"
+#include "scene/scanviewscenegraph.h"
 #include "scanfixture.h"
 
 #include <QTest>

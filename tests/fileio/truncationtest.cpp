@@ -1,8 +1,8 @@
 #include "testregistry.h"
 
-#include "annotations/tvxspolygon.h"
-#include "annotations/tvxsreferencesphere.h"
-#include "glviews/scanviewscenegraph.h"
+#include "scene/tvxspolygon.h"
+#include "scene/tvxsreferencesphere.h"
+#include "scene/scanviewscenegraph.h"
 #include "scanfixture.h"
 
 #include <QTemporaryDir>

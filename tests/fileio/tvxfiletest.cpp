@@ -1,7 +1,7 @@
 #include "testregistry.h"
 
 #include "fileio/scangeometry.h"
-#include "glviews/scanviewscenegraph.h"
+#include "scene/scanviewscenegraph.h"
 #include "scanfixture.h"
 
 #include <QFileInfo>

@@ -1,13 +1,13 @@
 #include "testregistry.h"
 
-#include "annotations/tvxsdimensioning.h"
-#include "annotations/tvxsellipse.h"
-#include "annotations/tvxspolygon.h"
-#include "annotations/tvxsrectangle.h"
-#include "annotations/tvxsreferencepoint.h"
-#include "annotations/tvxsreferencesphere.h"
-#include "annotations/tvxssimpletext.h"
-#include "glviews/scanviewscenegraph.h"
+#include "scene/tvxsdimensioning.h"
+#include "scene/tvxsellipse.h"
+#include "scene/tvxspolygon.h"
+#include "scene/tvxsrectangle.h"
+#include "scene/tvxsreferencepoint.h"
+#include "scene/tvxsreferencesphere.h"
+#include "scene/tvxssimpletext.h"
+#include "scene/scanviewscenegraph.h"
 #include "scanfixture.h"
 
 #include <QTemporaryDir>

@@ -3,7 +3,7 @@
 #include "annotations/sceneitemstablemodel.h"
 #include "annotations/viewerscenereader.h"
 #include "annotations/viewerscenewriter.h"
-#include "glviews/scanviewscenegraph.h"
+#include "scene/scanviewscenegraph.h"
 
 #include <QBuffer>
 

@@ -4,7 +4,7 @@
 // small scans written with the project's own scan writer.
 #include "testfiles.h"
 
-#include "annotations/tvxsreferencesphere.h"
+#include "scene/tvxsreferencesphere.h"
 #include "fileio/tvxfilereferenceinfo.h"
 #include "fileio/tvxfilescaninfo.h"
 #include "fileio/tvxfilewriter.h"

@@ -3,6 +3,7 @@
 #include "projectfixtures.h"
 
 #include "fileio/tvxprojectserializer.h"
+#include "project/projecttreerecords.h"
 
 #include <QDir>
 #include <QFile>
@@ -71,7 +72,7 @@ private Q_SLOTS:
         QCOMPARE(serializer.writerMinor(), 4u);
         QCOMPARE(serializer.writerPatch(), 12u);
         if (coordinateSystemCount < 0) {
-            QVERIFY(!content.root);
+            QVERIFY(content.tree.empty());
             return;
         }
         QCOMPARE(content.origin, (std::array<double, 3>{1.5, -2.25, 310.0}));
@@ -83,7 +84,7 @@ private Q_SLOTS:
             QCOMPARE(content.coordinateSystems[1].values[6], 26.0);
         }
         QCOMPARE(content.scans, QStringList({"scans/north.tvx", QStringLiteral("scans/süd.tvx"), "scans/east.tvx"}));
-        QCOMPARE(describe(content.root), QStringLiteral("scans+(Facade+(north#0+) süd#1+ east#2-)"));
+        QCOMPARE(describe(projectTreeFromRecords(content.tree)), QStringLiteral("scans+(Facade+(north#0+) süd#1+ east#2-)"));
     }
 
     void treeRoundTrip_data()
@@ -125,11 +126,11 @@ private Q_SLOTS:
         QCOMPARE(describe(root), expected);
 
         TVXProjectContent written;
-        written.root = root;
+        written.tree = projectTreeRecords(root);
         TVXProjectSerializer serializer(QStringLiteral("memory.tvxprj"));
         TVXProjectContent read;
         QVERIFY2(serializer.read(TVXProjectSerializer::encode(written), read), qPrintable(serializer.errorString()));
-        QCOMPARE(describe(read.root), expected);
+        QCOMPARE(describe(projectTreeFromRecords(read.tree)), expected);
     }
 
     // The writer's tree records are exactly the depth-first sequence that the format describes.
@@ -142,12 +143,13 @@ private Q_SLOTS:
         content.currentCoordinateSystem = 1;
         content.scans = QStringList{QStringLiteral("scans/north.tvx"), QStringLiteral("scans/süd.tvx"),
                                     QStringLiteral("scans/east.tvx")};
-        content.root = folder(QStringLiteral("scans"));
-        content.root->appendScan(scan(QStringLiteral("süd"), 1));
-        content.root->appendScan(scan(QStringLiteral("east"), 2, false));
+        const auto root = folder(QStringLiteral("scans"));
+        root->appendScan(scan(QStringLiteral("süd"), 1));
+        root->appendScan(scan(QStringLiteral("east"), 2, false));
         auto facade = folder(QStringLiteral("Facade"));
         facade->appendScan(scan(QStringLiteral("north"), 0));
-        content.root->appendFolder(facade);
+        root->appendFolder(facade);
+        content.tree = projectTreeRecords(root);
 
         // typicalFields() holds the same project, built from the table by hand.
         QCOMPARE(TVXProjectSerializer::encode(content), build(typicalFields()));
@@ -222,8 +224,9 @@ private Q_SLOTS:
         old.close();
 
         TVXProjectContent content;
-        content.root = folder(QStringLiteral("scans"));
-        content.root->appendScan(scan(QStringLiteral("a"), 0));
+        const auto root = folder(QStringLiteral("scans"));
+        root->appendScan(scan(QStringLiteral("a"), 0));
+        content.tree = projectTreeRecords(root);
         content.scans = QStringList{QStringLiteral("scans/a.tvx")};
         TVXProjectSerializer writer(path);
         QVERIFY(writer.open(TVXProjectSerializer::WriteOnly));
@@ -235,7 +238,7 @@ private Q_SLOTS:
         TVXProjectContent read;
         QVERIFY(reader.open(TVXProjectSerializer::ReadOnly));
         QVERIFY2(reader.read(read), qPrintable(reader.errorString()));
-        QCOMPARE(describe(read.root), QStringLiteral("scans+(a#0+)"));
+        QCOMPARE(describe(projectTreeFromRecords(read.tree)), QStringLiteral("scans+(a#0+)"));
         QCOMPARE(reader.writerMajor(), 2021u);
     }
 
@@ -259,7 +262,7 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(blocked + QStringLiteral("/inside")));
 
         TVXProjectContent content;
-        content.root = folder(QStringLiteral("scans"));
+        content.tree = projectTreeRecords(folder(QStringLiteral("scans")));
         TVXProjectSerializer writer(path);
         writer.open(TVXProjectSerializer::WriteOnly);
         try {

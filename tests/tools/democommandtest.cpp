@@ -4,7 +4,7 @@
 
 #include "annotations/annotationfile.h"
 #include "annotations/sceneitemstablemodel.h"
-#include "glviews/scanviewscenegraph.h"
+#include "scene/scanviewscenegraph.h"
 #include "project/basicproject.h"
 #include "project/referencepointstablemodel.h"
 

@@ -3,14 +3,14 @@
 #include "testregistry.h"
 #include "toolrun.h"
 
-#include "annotations/tvxsdimensioning.h"
-#include "annotations/tvxsellipse.h"
-#include "annotations/tvxspolygon.h"
-#include "annotations/tvxsrectangle.h"
-#include "annotations/tvxsreferencesphere.h"
-#include "annotations/tvxssimpletext.h"
+#include "scene/tvxsdimensioning.h"
+#include "scene/tvxsellipse.h"
+#include "scene/tvxspolygon.h"
+#include "scene/tvxsrectangle.h"
+#include "scene/tvxsreferencesphere.h"
+#include "scene/tvxssimpletext.h"
 #include "fileio/scangeometry.h"
-#include "glviews/scanviewscenegraph.h"
+#include "scene/scanviewscenegraph.h"
 
 #include <QDir>
 #include <QJsonArray>

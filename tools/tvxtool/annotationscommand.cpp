@@ -5,13 +5,13 @@
 #include "annotations/annotationfile.h"
 #include "annotations/dimensioningtypename.h"
 #include "annotations/sceneitemstablemodel.h"
-#include "annotations/tvxsdimensioning.h"
-#include "annotations/tvxsellipse.h"
-#include "annotations/tvxspolygon.h"
-#include "annotations/tvxsrectangle.h"
-#include "annotations/tvxssimpletext.h"
+#include "scene/tvxsdimensioning.h"
+#include "scene/tvxsellipse.h"
+#include "scene/tvxspolygon.h"
+#include "scene/tvxsrectangle.h"
+#include "scene/tvxssimpletext.h"
 #include "annotations/viewerscenereader.h"
-#include "glviews/scanviewscenegraph.h"
+#include "scene/scanviewscenegraph.h"
 
 #include <QFile>
 

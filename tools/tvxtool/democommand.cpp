@@ -11,17 +11,18 @@
 
 #include "annotations/annotationfile.h"
 #include "annotations/sceneitemstablemodel.h"
-#include "annotations/tvxsdimensioning.h"
-#include "annotations/tvxsellipse.h"
-#include "annotations/tvxspolygon.h"
-#include "annotations/tvxsrectangle.h"
-#include "annotations/tvxsreferencesphere.h"
-#include "annotations/tvxssimpletext.h"
+#include "scene/tvxsdimensioning.h"
+#include "scene/tvxsellipse.h"
+#include "scene/tvxspolygon.h"
+#include "scene/tvxsrectangle.h"
+#include "scene/tvxsreferencesphere.h"
+#include "scene/tvxssimpletext.h"
 #include "fileio/tvxfilemetainfo.h"
 #include "fileio/tvxfilereferenceinfo.h"
 #include "fileio/tvxfilescaninfo.h"
 #include "fileio/tvxprojectserializer.h"
-#include "glviews/scanviewscenegraph.h"
+#include "project/projecttreerecords.h"
+#include "scene/scanviewscenegraph.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -217,16 +218,17 @@ void writeProject(const QString& path, const QStringList& scanPaths, quint64 see
         {QStringLiteral("Site grid"), {2683150.0, 1247320.0, 432.5, 0.0, 0.0, 0.0123 + 0.0001 * double(seed % 7), 1.0}});
     content.scans = scanPaths;
     // scans( Plaza( the first half ) Street( the rest ) ), the scan with identifier i being entry i.
-    content.root = ProjectItemScanGroup::create(QStringLiteral("scans"));
+    const auto root = ProjectItemScanGroup::create(QStringLiteral("scans"));
     const auto plaza = ProjectItemScanGroup::create(QStringLiteral("Plaza"));
     const auto street = ProjectItemScanGroup::create(QStringLiteral("Street"));
-    content.root->appendFolder(plaza);
-    content.root->appendFolder(street);
+    root->appendFolder(plaza);
+    root->appendFolder(street);
     const int half = (int(scanPaths.size()) + 1) / 2;
     for (int i = 0; i < scanPaths.size(); ++i) {
         const auto node = ProjectItemScan::create(QFileInfo(scanPaths[i]).completeBaseName(), quint64(i));
         (i < half ? plaza : street)->appendScan(node);
     }
+    content.tree = projectTreeRecords(root);
     TVXProjectSerializer serializer(path);
     if (!serializer.open(TVXProjectSerializer::WriteOnly))
         throw CommandError(("tvxtool demo: cannot write " + path).toStdString());

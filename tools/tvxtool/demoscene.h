@@ -4,7 +4,7 @@
 // buildings (façades with windows and doors, one with a portico of columns), a road with a parked
 // vehicle and street lamps, trees, reference spheres on poles and a ring of distant buildings.
 // Scene frame: metres, z up, the ground at z = 0, the plaza around the origin.
-#include "glviews/vector3d.h"
+#include "scene/vector3d.h"
 
 #include <QRgb>
 #include <QString>

@@ -2,18 +2,18 @@
 #include "scanfileopener.h"
 #include "toolcommand.h"
 
-#include "annotations/tvxsdimensioning.h"
-#include "annotations/tvxsellipse.h"
-#include "annotations/tvxspolygon.h"
-#include "annotations/tvxsrectangle.h"
-#include "annotations/tvxsreferenceobject.h"
-#include "annotations/tvxssimpletext.h"
+#include "scene/tvxsdimensioning.h"
+#include "scene/tvxsellipse.h"
+#include "scene/tvxspolygon.h"
+#include "scene/tvxsrectangle.h"
+#include "scene/tvxsreferenceobject.h"
+#include "scene/tvxssimpletext.h"
 #include "fileio/tvxfilelayertable.h"
 #include "fileio/tvxfilemetainfo.h"
 #include "fileio/tvxfilereferenceinfo.h"
 #include "fileio/tvxfilescaninfo.h"
 #include "fileio/tvxfilesceneitems.h"
-#include "glviews/scanviewscenegraph.h"
+#include "scene/scanviewscenegraph.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

@@ -5,6 +5,7 @@
 
 #include "fileio/tvxprojectserializer.h"
 #include "project/projectmessages.h"
+#include "project/projecttreerecords.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -80,7 +81,7 @@ int runProject(const QStringList& arguments)
                {QStringLiteral("coordinateSystems"), coordinateSystems},
                {QStringLiteral("currentCoordinateSystem"), qint64(content.currentCoordinateSystem)},
                {QStringLiteral("scans"), QJsonArray::fromStringList(content.scans)},
-               {QStringLiteral("tree"), jsonFolder(*content.root)}});
+               {QStringLiteral("tree"), jsonFolder(*projectTreeFromRecords(content.tree))}});
     return 0;
 }
 

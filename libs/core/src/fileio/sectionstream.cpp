@@ -1,6 +1,6 @@
 #include "fileio/sectionstream.h"
 
-#include "annotations/tvxsceneitem.h"
+#include "scene/tvxsceneitem.h"
 #include "fileio/filereaderror.h"
 #include "fileio/scanfilelog.h"
 

@@ -9,7 +9,7 @@
 #include "fileio/tvxfilescaninfo.h"
 #include "fileio/tvxfilesceneitems.h"
 #include "fileio/tvxfiletiledecoder.h"
-#include "glviews/scanviewscenegraph.h"
+#include "scene/scanviewscenegraph.h"
 
 #include <QDataStream>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "fileio/tvxfilereferenceinfo.h"
 
-#include "annotations/tvxsreferencepoint.h"
-#include "annotations/tvxsreferencesphere.h"
+#include "scene/tvxsreferencepoint.h"
+#include "scene/tvxsreferencesphere.h"
 #include "fileio/scanfilelog.h"
 #include "fileio/sectionstream.h"
 

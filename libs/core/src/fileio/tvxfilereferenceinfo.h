@@ -1,6 +1,6 @@
 #pragma once
 
-#include "annotations/tvxsreferenceobject.h"
+#include "scene/tvxsreferenceobject.h"
 
 #include <QDataStream>
 #include <QString>

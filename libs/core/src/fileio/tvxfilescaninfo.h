@@ -1,7 +1,7 @@
 #pragma once
 
 #include "fileio/scangeometry.h"
-#include "glviews/vector3d.h"
+#include "scene/vector3d.h"
 
 #include <QDataStream>
 #include <QString>

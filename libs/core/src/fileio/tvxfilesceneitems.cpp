@@ -1,13 +1,13 @@
 #include "fileio/tvxfilesceneitems.h"
 
-#include "annotations/tvxsdimensioning.h"
-#include "annotations/tvxsellipse.h"
-#include "annotations/tvxspolygon.h"
-#include "annotations/tvxsrectangle.h"
-#include "annotations/tvxssimpletext.h"
+#include "scene/tvxsdimensioning.h"
+#include "scene/tvxsellipse.h"
+#include "scene/tvxspolygon.h"
+#include "scene/tvxsrectangle.h"
+#include "scene/tvxssimpletext.h"
 #include "fileio/scanfilelog.h"
 #include "fileio/sectionstream.h"
-#include "glviews/scanviewscenegraph.h"
+#include "scene/scanviewscenegraph.h"
 
 namespace TVX::CORE {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "glviews/vector3d.h"
+#include "scene/vector3d.h"
 
 #include <QtGlobal>
 

@@ -8,7 +8,7 @@
 #include "fileio/tvxfilereferenceinfo.h"
 #include "fileio/tvxfilescaninfo.h"
 #include "fileio/tvxfilesceneitems.h"
-#include "glviews/scanviewscenegraph.h"
+#include "scene/scanviewscenegraph.h"
 
 #include <QByteArray>
 #include <QDataStream>

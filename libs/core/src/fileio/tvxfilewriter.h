@@ -1,6 +1,6 @@
 #pragma once
 
-#include "annotations/tvxsceneitem.h"
+#include "scene/tvxsceneitem.h"
 
 #include <QString>
 

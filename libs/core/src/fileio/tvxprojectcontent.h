@@ -1,7 +1,5 @@
 #pragma once
 
-#include "project/projectitemscangroup.h"
-
 #include <QString>
 #include <QStringList>
 
@@ -25,8 +23,18 @@ struct TVXProjectContent {
     // Scan file paths relative to the project directory. The scan node whose identifier is i
     // belongs to entry i; an empty entry is an identifier that no scan uses.
     QStringList scans;
-    // The root folder of the tree, "scans"; empty when nothing was read.
-    ProjectItemScanGroupPtr root;
+    // One node of the item tree as the file stores it. A folder announces how many records of
+    // its children follow it directly; a scan carries its identifier.
+    struct TreeRecord {
+        enum Kind : quint32 { Folder = 1, Scan = 2 };
+        quint32 kind{Folder};
+        bool enabled{true};
+        QString name;
+        qint64 number{0}; // child count of a folder, identifier of a scan
+    };
+    // The tree depth first, each folder before its children; the first record is the root folder
+    // "scans". Empty when nothing was read.
+    std::vector<TreeRecord> tree;
 };
 
 } // namespace TVX::CORE

@@ -29,9 +29,8 @@ constexpr quint32 treeTag = 0x210004;
 constexpr quint32 projectEndTag = 0x21FFFF;
 constexpr quint32 fileEndTag = 0x2FFFFF;
 
-// Tree record kinds: the item type minus 1.
-constexpr quint32 folderRecord = ProjectItem::Folder - 1;
-constexpr quint32 scanRecord = ProjectItem::Scan - 1;
+constexpr quint32 folderRecord = TVXProjectContent::TreeRecord::Folder;
+constexpr quint32 scanRecord = TVXProjectContent::TreeRecord::Scan;
 
 // The smallest tree record: kind, flag, name length (of an empty name) and the child count or
 // identifier. Every count that a record announces must fit into the bytes that remain.
@@ -216,55 +215,42 @@ bool TVXProjectSerializer::Private::readTree(Cursor& cursor, TVXProjectContent& 
     // Depth first: every record belongs to the folder on top of the stack, and a folder stays
     // there until as many records as it announced children have been read for it. The stack starts
     // with a holder that takes exactly one record, the root folder.
-    struct Open {
-        ProjectItemScanGroup* folder;
-        qint64 pending;
-    };
-    const ProjectItemScanGroupPtr holder = ProjectItemScanGroup::create(QString());
-    std::vector<Open> stack{{holder.get(), 1}};
+    std::vector<qint64> stack{1};
     qint64 pendingTotal = 1;
     while (!stack.empty()) {
-        Open& top = stack.back();
-        if (top.pending == 0) {
+        if (stack.back() == 0) {
             stack.pop_back();
             continue;
         }
-        --top.pending;
+        const bool atRoot = content.tree.empty();
+        --stack.back();
         --pendingTotal;
-        ProjectItemScanGroup* parent = top.folder;
 
-        quint32 kind = 0;
+        TVXProjectContent::TreeRecord record;
         qint8 enabled = 0;
-        QString name;
-        qint64 number = 0; // child count of a folder, identifier of a scan
-        if (!cursor.u32(kind))
+        if (!cursor.u32(record.kind))
             return fail(cursor, QStringLiteral("file ends in the tree"));
-        if (kind != folderRecord && kind != scanRecord)
-            return fail(cursor, QStringLiteral("unknown tree record kind %1").arg(kind));
-        if (parent == holder.get() && kind != folderRecord)
+        if (record.kind != folderRecord && record.kind != scanRecord)
+            return fail(cursor, QStringLiteral("unknown tree record kind %1").arg(record.kind));
+        if (atRoot && record.kind != folderRecord)
             return fail(cursor, QStringLiteral("the tree does not start with a folder"));
-        if (!cursor.i8(enabled) || !cursor.utf8(name) || !cursor.i64(number))
+        if (!cursor.i8(enabled) || !cursor.utf8(record.name) || !cursor.i64(record.number))
             return fail(cursor, QStringLiteral("file ends in a tree record"));
-
-        if (kind == scanRecord) {
-            const auto scan = ProjectItemScan::create(name, quint64(number));
-            scan->setEnabled(enabled != 0);
-            parent->appendScan(scan);
+        record.enabled = enabled != 0;
+        const qint64 number = record.number;
+        const QString name = record.name;
+        content.tree.push_back(std::move(record));
+        if (content.tree.back().kind == scanRecord)
             continue;
-        }
-        const auto folder = ProjectItemScanGroup::create(name);
-        folder->setEnabled(enabled != 0);
-        parent->appendFolder(folder);
         if (number < 0 || number > cursor.remaining() / minimumRecordSize - pendingTotal)
             return fail(cursor, QStringLiteral("folder \"%1\" claims %2 children, more than follow").arg(name).arg(number));
         if (number == 0)
             continue;
         if (int(stack.size()) > maximumFolderDepth)
             return fail(cursor, QStringLiteral("folders nested deeper than %1 levels").arg(maximumFolderDepth));
-        stack.push_back({folder.get(), number});
+        stack.push_back(number);
         pendingTotal += number;
     }
-    content.root = std::static_pointer_cast<ProjectItemScanGroup>(holder->takeChild(0));
     return true;
 }
 
@@ -361,25 +347,10 @@ QByteArray TVXProjectSerializer::encode(const TVXProjectContent& content)
         writeUtf8(scan);
 
     out << treeTag;
-    // Each node is written when it is taken from the stack; a folder's children are pushed in
-    // reverse, so siblings come out in child order (sub-folders, then scans) and every folder's
-    // records directly follow it, as the reader expects.
-    std::vector<ProjectItemPtr> stack;
-    if (content.root)
-        stack.push_back(content.root);
-    while (!stack.empty()) {
-        const ProjectItemPtr item = stack.back();
-        stack.pop_back();
-        out << quint32(item->itemType() - 1) << qint8(item->isEnabled() ? 1 : 0);
-        writeUtf8(item->name());
-        if (item->isScan()) {
-            out << qint64(std::static_pointer_cast<ProjectItemScan>(item)->scanId());
-            continue;
-        }
-        const auto folder = std::static_pointer_cast<ProjectItemScanGroup>(item);
-        out << qint64(folder->childCount());
-        for (int i = folder->childCount() - 1; i >= 0; --i)
-            stack.push_back(folder->child(i));
+    for (const TVXProjectContent::TreeRecord& record : content.tree) {
+        out << record.kind << qint8(record.enabled ? 1 : 0);
+        writeUtf8(record.name);
+        out << record.number;
     }
     out << projectEndTag << fileEndTag;
     return bytes;

@@ -46,7 +46,7 @@ public:
     bool read(const QByteArray& bytes, TVXProjectContent& content);
 
     // Writes `content` (after open(WriteOnly)) and replaces the project file; throws as above.
-    // `content.root` must be set.
+    // `content.tree` starts with the root folder.
     void write(const TVXProjectContent& content);
     // The bytes write() puts into the file.
     static QByteArray encode(const TVXProjectContent& content);

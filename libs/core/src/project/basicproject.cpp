@@ -7,6 +7,7 @@
 #include "project/filetreemodel.h"
 #include "project/projectlock.h"
 #include "project/projectmessages.h"
+#include "project/projecttreerecords.h"
 #include "project/referencepointstablemodel.h"
 
 #include <QDir>
@@ -199,7 +200,7 @@ bool BasicProject::openProject(const QString& path, const QString& userName, int
                                                    serializer.writerMinor(), serializer.writerPatch());
         }
     } else {
-        content.root = ProjectItemScanGroup::create(QStringLiteral("scans"));
+        content.tree.push_back({TVXProjectContent::TreeRecord::Folder, true, QStringLiteral("scans"), 0});
     }
 
     d->open = true;
@@ -218,7 +219,10 @@ void BasicProject::installContent(TVXProjectContent& content)
     d->coordinateSystems = std::move(content.coordinateSystems);
     d->currentCoordinateSystem = content.currentCoordinateSystem;
     d->holder = ProjectItemScanGroup::create(QString());
-    d->holder->appendFolder(content.root);
+    ProjectItemScanGroupPtr root = projectTreeFromRecords(content.tree);
+    if (!root)
+        root = ProjectItemScanGroup::create(QStringLiteral("scans"));
+    d->holder->appendFolder(root);
 
     const QStringList& listed = content.scans;
     for (int i = 0; i < listed.size(); ++i) {
@@ -229,7 +233,7 @@ void BasicProject::installContent(TVXProjectContent& content)
     // identifiers are dropped, listed scans without a node get one in the root folder.
     std::set<quint64> named;
     std::vector<ProjectItemScanPtr> stray;
-    content.root->forEachScan([&](const ProjectItemScanPtr& scan) {
+    root->forEachScan([&](const ProjectItemScanPtr& scan) {
         const quint64 id = scan->scanId();
         if (id >= quint64(listed.size()) || listed[int(id)].isEmpty() || !named.insert(id).second)
             stray.push_back(scan);
@@ -240,7 +244,7 @@ void BasicProject::installContent(TVXProjectContent& content)
     }
     for (int i = 0; i < listed.size(); ++i) {
         if (!listed[i].isEmpty() && !named.count(quint64(i)))
-            content.root->appendScan(ProjectItemScan::create(QFileInfo(listed[i]).completeBaseName(), quint64(i)));
+            root->appendScan(ProjectItemScan::create(QFileInfo(listed[i]).completeBaseName(), quint64(i)));
     }
     d->model->setEditable(!d->readOnly);
     d->model->setRootHolder(d->holder);
@@ -322,7 +326,7 @@ void BasicProject::saveProject()
     content.origin = d->origin;
     content.coordinateSystems = d->coordinateSystems;
     content.currentCoordinateSystem = d->currentCoordinateSystem;
-    content.root = rootFolder();
+    content.tree = projectTreeRecords(rootFolder());
     // Entry i of the list is the scan with identifier i; identifiers no scan uses stay empty.
     std::map<quint32, QString> paths = d->unreadable;
     for (const ScanEntry& entry : d->scans)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "fileio/tvxprojectcontent.h"
-#include "glviews/vector3d.h"
+#include "scene/vector3d.h"
 #include "project/projectitemscangroup.h"
 #include "project/scanpose.h"
 

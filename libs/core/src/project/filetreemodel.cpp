@@ -1,9 +1,7 @@
 #include "project/filetreemodel.h"
 
-#include <QApplication>
 #include <QIcon>
 #include <QMimeData>
-#include <QStyle>
 
 #include <algorithm>
 #include <array>
@@ -39,6 +37,7 @@ struct FileTreeModel::Private {
     ProjectItemScanGroupPtr holder;
     bool editable{true};
     ViewStateProvider viewState;
+    QIcon folderIcon;
     // Document icon of scans, then (inactive, active) per view kind; made on first use, once a GUI
     // application exists.
     mutable std::array<QIcon, 7> icons;
@@ -83,6 +82,11 @@ ProjectItemScanGroupPtr FileTreeModel::rootHolder() const
 ProjectItemScanGroupPtr FileTreeModel::rootFolder() const
 {
     return d->holder ? std::static_pointer_cast<ProjectItemScanGroup>(d->holder->child(0)) : nullptr;
+}
+
+void FileTreeModel::setFolderIcon(const QIcon& icon)
+{
+    d->folderIcon = icon;
 }
 
 void FileTreeModel::setEditable(bool editable)
@@ -228,9 +232,7 @@ QVariant FileTreeModel::data(const QModelIndex& index, int role) const
     case Qt::DecorationRole:
         if (scan)
             return d->icon(0);
-        if (qobject_cast<QApplication*>(QCoreApplication::instance()))
-            return QApplication::style()->standardIcon(QStyle::SP_DirIcon);
-        return {};
+        return d->folderIcon.isNull() ? QVariant() : QVariant(d->folderIcon);
     default:
         return {};
     }

@@ -3,6 +3,7 @@
 #include "project/projectitemscangroup.h"
 
 #include <QAbstractItemModel>
+#include <QIcon>
 #include <QList>
 
 #include <functional>
@@ -44,6 +45,9 @@ public:
     // Without edit permission (a read-only project) nothing can be renamed, removed or moved;
     // check boxes still work.
     void setEditable(bool editable);
+    // Decoration of folder rows; the view hands in its style's folder icon (none by default, so
+    // that the model needs no widget library).
+    void setFolderIcon(const QIcon& icon);
     bool isEditable() const;
 
     void setViewStateProvider(ViewStateProvider provider);

@@ -1,6 +1,6 @@
 #include "project/referencepointstablemodel.h"
 
-#include "annotations/tvxsreferencesphere.h"
+#include "scene/tvxsreferencesphere.h"
 #include "fileio/tvxfile.h"
 #include "fileio/tvxfilereferenceinfo.h"
 

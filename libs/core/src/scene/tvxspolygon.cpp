@@ -1,0 +1,21 @@
+#include "scene/tvxspolygon.h"
+
+namespace TVX::CORE {
+
+struct TVXSPolygon::Data {
+    QPolygonF polygon;
+};
+
+TVXSPolygon::TVXSPolygon(const QPolygonF& polygon, quint32 number)
+    : TVXScene2DItem(number), d(std::make_unique<Data>(Data{polygon}))
+{
+}
+
+TVXSPolygon::~TVXSPolygon() = default;
+
+QPolygonF TVXSPolygon::polygon() const
+{
+    return d->polygon;
+}
+
+} // namespace TVX::CORE

@@ -1,0 +1,33 @@
+#include "scene/tvxssimpletext.h"
+
+namespace TVX::CORE {
+
+struct TVXSSimpleText::Data {
+    QString text;
+    QPointF position;
+    QPointF offset;
+};
+
+TVXSSimpleText::TVXSSimpleText(const QString& text, const QPointF& position, const QPointF& offset, quint32 number)
+    : TVXScene2DItem(number), d(std::make_unique<Data>(Data{text, position, offset}))
+{
+}
+
+TVXSSimpleText::~TVXSSimpleText() = default;
+
+QString TVXSSimpleText::text() const
+{
+    return d->text;
+}
+
+QPointF TVXSSimpleText::position() const
+{
+    return d->position;
+}
+
+QPointF TVXSSimpleText::offset() const
+{
+    return d->offset;
+}
+
+} // namespace TVX::CORE

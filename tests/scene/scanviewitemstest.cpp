@@ -1,0 +1,207 @@
+#include "testregistry.h"
+
+#include "scene/scanviewellipse.h"
+#include "scene/scanviewmeasurementitem.h"
+#include "scene/scanviewrectangle.h"
+#include "scene/scanviewtextitem.h"
+#include "scene/spheregeometry.h"
+
+#include <QTest>
+
+#include <cmath>
+
+using namespace TVX::CORE;
+
+Q_DECLARE_METATYPE(TVX::CORE::Vector3d)
+
+namespace {
+
+// A direction in the plane x = 1 in front of the station.
+Vector3d ahead(double u, double v)
+{
+    return Vector3d(1.0, u, v).normalized();
+}
+
+// `d` turned by `angle` towards `towards` (which must not be parallel to it), in the plane of both.
+Vector3d tilted(const Vector3d& d, const Vector3d& towards, double angle)
+{
+    const Vector3d unit = d.normalized();
+    const Vector3d across = (towards - unit * towards.dot(unit)).normalized();
+    return unit * std::cos(angle) + across * std::sin(angle);
+}
+
+} // namespace
+
+// Hit tests of the point-like, line-like and area items; the polygon has its own test.
+class ScanViewItemsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void rectangleHit_data()
+    {
+        QTest::addColumn<Vector3d>("p0");
+        QTest::addColumn<Vector3d>("p1");
+        QTest::addColumn<Vector3d>("p2");
+        QTest::addColumn<Vector3d>("direction");
+        QTest::addColumn<bool>("hit");
+
+        // A square of corners (±0.1, ±0.1) in the plane x = 1; p1 is the corner between the two edges.
+        const Vector3d p0(1, -0.1, 0.1), p1(1, -0.1, -0.1), p2(1, 0.1, -0.1);
+        QTest::newRow("centre") << p0 << p1 << p2 << ahead(0, 0) << true;
+        // Only the quad's second triangle, reaching to p0 + p2 - p1, covers this one.
+        QTest::newRow("near the derived fourth corner") << p0 << p1 << p2 << ahead(0.09, 0.09) << true;
+        QTest::newRow("beyond an edge") << p0 << p1 << p2 << ahead(0.11, 0.0) << false;
+        QTest::newRow("opposite direction") << p0 << p1 << p2 << -ahead(0, 0) << false;
+        // A parallelogram: p1 + s·(p2 - p1) + t·(p0 - p1); (0.15, 0.05) has s = 0.875, t = 0.75.
+        const Vector3d skew0(1, 0.0, 0.1);
+        QTest::newRow("parallelogram, inside its slanted part") << skew0 << p1 << p2 << ahead(0.15, 0.05) << true;
+        QTest::newRow("parallelogram, cut-off corner") << skew0 << p1 << p2 << ahead(-0.09, 0.09) << false;
+    }
+
+    void rectangleHit()
+    {
+        QFETCH(Vector3d, p0);
+        QFETCH(Vector3d, p1);
+        QFETCH(Vector3d, p2);
+        QFETCH(Vector3d, direction);
+        QFETCH(bool, hit);
+
+        const ScanViewRectangle rectangle(p0, p1, p2);
+        QCOMPARE(rectangle.hitTest(direction), hit);
+        const std::vector<Vector3d> corners = rectangle.corners();
+        QCOMPARE(corners.size(), std::size_t(4));
+        QVERIFY((corners[3] - (p0 + p2 - p1)).length() < 1e-15);
+    }
+
+    void ellipseHit_data()
+    {
+        QTest::addColumn<Vector3d>("axisEnd2");
+        QTest::addColumn<double>("s"); // the direction runs through centre + s·(end1 - centre) + t·(end2 - centre)
+        QTest::addColumn<double>("t");
+        QTest::addColumn<bool>("hit");
+
+        const Vector3d square(1, 0, 0.1), slanted(1, 0.1, 0.1);
+        QTest::newRow("centre") << square << 0.0 << 0.0 << true;
+        QTest::newRow("just beyond the first axis") << square << 1.01 << 0.0 << false;
+        QTest::newRow("slanted axes, outside") << slanted << 0.8 << 0.8 << false;
+    }
+
+    void ellipseHit()
+    {
+        QFETCH(Vector3d, axisEnd2);
+        QFETCH(double, s);
+        QFETCH(double, t);
+        QFETCH(bool, hit);
+
+        // Unit directions as the view makes them: their plane is not x = 1 but tilted.
+        const Vector3d centre = Vector3d(1, 0, 0);
+        const Vector3d end1 = Vector3d(1, 0.2, 0).normalized();
+        const Vector3d end2 = axisEnd2.normalized();
+        const ScanViewEllipse ellipse(centre, end1, end2);
+        const Vector3d through = centre + (end1 - centre) * s + (end2 - centre) * t;
+        QCOMPARE(ellipse.hitTest(through), hit);
+        QCOMPARE(ellipse.hitTest(through * 3.0), hit);
+        QVERIFY(!ellipse.hitTest(-through));
+        QCOMPARE(ellipse.outline(36).size(), std::size_t(36));
+    }
+
+    void textHit_data()
+    {
+        QTest::addColumn<Vector3d>("anchor");
+        QTest::addColumn<double>("offAngle"); // in multiples of the pick angle
+        QTest::addColumn<bool>("hit");
+
+        QTest::newRow("on the anchor") << Vector3d(0, 0, 1) << 0.0 << true;
+        QTest::newRow("within the pick angle") << Vector3d(0.3, -0.4, 0.2) << 0.8 << true;
+        QTest::newRow("beyond the pick angle") << Vector3d(0.3, -0.4, 0.2) << 1.2 << false;
+        QTest::newRow("opposite side") << Vector3d(1, 0, 0) << M_PI / itemPickAngle << false;
+    }
+
+    void textHit()
+    {
+        QFETCH(Vector3d, anchor);
+        QFETCH(double, offAngle);
+        QFETCH(bool, hit);
+
+        const ScanViewTextItem text(QStringLiteral("Pfeiler"), anchor);
+        const Vector3d direction = tilted(anchor, Vector3d(0.1, 0.7, -0.3), offAngle * itemPickAngle);
+        QCOMPARE(text.hitTest(direction), hit);
+        QCOMPARE(text.hitTest(direction * 0.01), hit);
+    }
+
+    void measurementHit_data()
+    {
+        QTest::addColumn<Vector3d>("first");
+        QTest::addColumn<Vector3d>("second");
+        QTest::addColumn<Vector3d>("direction");
+        QTest::addColumn<bool>("hit");
+
+        // A quarter circle from x to y in the horizontal plane; the pick angle lifts or turns off it.
+        const Vector3d x(1, 0, 0), y(0, 1, 0), z(0, 0, 1);
+        const Vector3d middle = Vector3d(1, 1, 0).normalized();
+        QTest::newRow("middle of the arc") << x << y << middle << true;
+        QTest::newRow("above the arc beyond the pick angle") << x << y << tilted(middle, z, 1.2 * itemPickAngle) << false;
+        QTest::newRow("past the first end beyond the pick angle") << x << y << tilted(x, -y, 1.2 * itemPickAngle) << false;
+        // On the same great circle but off the shorter arc between the ends.
+        QTest::newRow("on the great circle beyond the second end") << x << y << Vector3d(-1, 1, 0) << false;
+        QTest::newRow("ends not normalised") << x * 4.0 << y * 0.5 << tilted(middle, z, 0.8 * itemPickAngle) << true;
+        QTest::newRow("both ends equal, on them") << y << y << y << true;
+        QTest::newRow("zero end") << Vector3d() << y << y << false;
+    }
+
+    void measurementHit()
+    {
+        QFETCH(Vector3d, first);
+        QFETCH(Vector3d, second);
+        QFETCH(Vector3d, direction);
+        QFETCH(bool, hit);
+
+        const ScanViewMeasurementItem measurement(2, first, second);
+        QCOMPARE(measurement.hitTest(direction), hit);
+        // The arc has no direction of its own.
+        const ScanViewMeasurementItem reversed(2, second, first);
+        QCOMPARE(reversed.hitTest(direction), hit);
+    }
+
+    // An item without enough points has nothing to hit, wherever the direction points.
+    void tooFewPointsNeverHit_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<int>("points");
+        QTest::newRow("rectangle with two points") << 0 << 2;
+        QTest::newRow("text without its anchor") << 2 << 0;
+        QTest::newRow("measurement with one point") << 3 << 1;
+    }
+
+    void tooFewPointsNeverHit()
+    {
+        QFETCH(int, kind);
+        QFETCH(int, points);
+
+        // Every point lies straight ahead, where a complete item would be hit.
+        const std::vector<Vector3d> ahead(std::size_t(points), Vector3d(1, 0, 0));
+        std::unique_ptr<ScanViewItem> item;
+        switch (kind) {
+        case 0:
+            item = std::make_unique<ScanViewRectangle>();
+            break;
+        case 1:
+            item = std::make_unique<ScanViewEllipse>();
+            break;
+        case 2:
+            item = std::make_unique<ScanViewTextItem>();
+            break;
+        default:
+            item = std::make_unique<ScanViewMeasurementItem>();
+            break;
+        }
+        item->setPoints(ahead);
+        QVERIFY(!item->hitTest({1, 0, 0}));
+        QVERIFY(!item->hitTest({1, 0.01, 0.01}));
+    }
+};
+
+TVX_TEST(ScanViewItemsTest)
+
+#include "scanviewitemstest.moc"
