@@ -1,3 +1,4 @@
+#include "filesizelimit.h"
 #include "testfiles.h"
 #include "testregistry.h"
 #include "viewerscenefixture.h"
@@ -5,6 +6,8 @@
 #include "annotations/annotationfile.h"
 #include "annotations/sceneitemstablemodel.h"
 #include "scene/tvxspolygon.h"
+#include "scene/tvxsreferencepoint.h"
+#include "scene/tvxssimpletext.h"
 #include "scene/scanviewscenegraph.h"
 
 #include <QDir>
@@ -12,8 +15,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <csignal>
-#include <sys/resource.h>
 
 using namespace TVX::CORE;
 using namespace TVX::TEST;
@@ -28,31 +29,6 @@ void fillLargeModel(SceneItemsTableModel& model)
         polygon << QPointF(i + 0.5, -i - 0.25);
     model.addItem(std::make_shared<TVXSPolygon>(polygon));
 }
-
-// Lets writes to files fail beyond `bytes` while it lives (as on a full disk), for root too.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &m_saved);
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        rlimit limit = m_saved;
-        limit.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_saved);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
-private:
-    rlimit m_saved{};
-    void (*m_handler)(int) = nullptr;
-};
 
 } // namespace
 
@@ -101,6 +77,7 @@ private Q_SLOTS:
         QTest::newRow("disk full while writing") << "file size limit";
         QTest::newRow("read-only folder") << "read-only folder";
         QTest::newRow("read-only annotation file") << "read-only file";
+        QTest::newRow("an item the file cannot hold") << "unwritable item";
     }
 
     void failedSaveKeepsThePreviousFile()
@@ -119,6 +96,9 @@ private Q_SLOTS:
         bool saved = true;
         if (obstacle == QLatin1String("file size limit")) {
             const FileSizeLimit limit(4096);
+            saved = AnnotationFile::save(scan, model, nullptr, &error);
+        } else if (obstacle == QLatin1String("unwritable item")) {
+            model.addItem(std::make_shared<TVXSReferencePoint>(QStringLiteral("P1"), TVXSReferencePoint::Values{}));
             saved = AnnotationFile::save(scan, model, nullptr, &error);
         } else {
             const QString target = obstacle == QLatin1String("read-only folder") ? dir.path() : annotations;
@@ -139,6 +119,36 @@ private Q_SLOTS:
         QVERIFY(!error.isEmpty());
         QCOMPARE(readBytes(annotations), previous);
         QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden), QStringList{"north-viewer.xml"});
+    }
+
+    // Texts come back as typed, carriage returns included; a control character that XML cannot
+    // hold is replaced instead of making the whole file unreadable.
+    void textsWithControlCharactersRoundTrip()
+    {
+        QTemporaryDir dir;
+        const QString scan = dir.filePath(QStringLiteral("north.tvx"));
+        const QStringList texts{QStringLiteral("line\r\nbreak"), QStringLiteral("lone\rreturn"),
+                                QStringLiteral("bell\x07 tab\t<&>")};
+        SceneItemsTableModel written;
+        ScanViewSceneGraph writtenGraph;
+        for (const QString& text : texts) {
+            written.addItem(std::make_shared<TVXSSimpleText>(text, QPointF(3, 4), QPointF()));
+            writtenGraph.addItem(std::make_shared<ScanViewTextItem>(text, Vector3d(0, 0, 1)));
+        }
+        QString error;
+        QVERIFY2(AnnotationFile::save(scan, written, &writtenGraph, &error), qPrintable(error));
+
+        SceneItemsTableModel read;
+        ScanViewSceneGraph readGraph;
+        QVERIFY2(AnnotationFile::load(scan, read, &readGraph, &error), qPrintable(error));
+        QCOMPARE(read.rowCount(), texts.size());
+        QCOMPARE(int(readGraph.textItems().size()), texts.size());
+        QStringList expected = texts;
+        expected[2] = QStringLiteral("bell\uFFFD tab\t<&>");
+        for (int i = 0; i < texts.size(); ++i) {
+            QCOMPARE(std::static_pointer_cast<TVXSSimpleText>(read.item(i))->text(), expected[i]);
+            QCOMPARE(readGraph.textItems()[std::size_t(i)]->text(), expected[i]);
+        }
     }
 
     void load_data()

@@ -1,5 +1,6 @@
 #include "testregistry.h"
 
+#include "filesizelimit.h"
 #include "projectfixtures.h"
 
 #include "fileio/tvxfile.h"
@@ -269,7 +270,13 @@ private Q_SLOTS:
         QCOMPARE(opened.code, code);
         QCOMPARE(opened.ok, code != 7);
         message.replace(QLatin1String("%path"), path).replace(QLatin1String("%format"), QString::number(formatVersion));
-        QCOMPARE(opened.message, message);
+        if (code == 7) {
+            // The fixed text first, then the cause with the byte position.
+            QVERIFY2(opened.message.startsWith(message), qPrintable(opened.message));
+            QVERIFY2(opened.message.mid(message.size()).contains(QLatin1String("byte")), qPrintable(opened.message));
+        } else {
+            QCOMPARE(opened.message, message);
+        }
         QCOMPARE(readBytes(path), bytes);
         BasicProject& project = BasicProject::instance();
         if (code == 7) {
@@ -404,7 +411,8 @@ private Q_SLOTS:
         QVERIFY(project.isModified());
 
         // Saved and opened again, every scan keeps its identifier and path.
-        project.saveProject();
+        QString saveMessage;
+        QVERIFY2(project.saveProject(saveMessage), qPrintable(saveMessage));
         const auto paths = [&project] {
             return QStringList{project.scanRelativePath(0), project.scanRelativePath(1), project.scanRelativePath(2),
                                project.scanRelativePath(3), describe(project.rootFolder())};
@@ -414,6 +422,119 @@ private Q_SLOTS:
         QVERIFY(openProject(path).ok);
         QCOMPARE(paths(), before);
         QCOMPARE(project.scanRelativePath(expected), QStringLiteral("scans/new.tvx"));
+    }
+
+    void unreadableScansAreNamedWithTheirCause()
+    {
+        QTemporaryDir dir;
+        const QString path = makeTypicalProject(dir);
+        QVERIFY(writeBytes(dir.filePath(QStringLiteral("scans/north.tvx")), "not a scan"));
+        QVERIFY(QFile::remove(dir.filePath(QStringLiteral("scans/east.tvx"))));
+        const Opened opened = openProject(path);
+        QVERIFY(opened.ok);
+        BasicProject& project = BasicProject::instance();
+        QCOMPARE(project.scanCount(), 1);
+        const QStringList unreadable = project.unreadableScans();
+        QCOMPARE(unreadable.size(), 2);
+        QVERIFY2(unreadable[0].startsWith(QLatin1String("scans/north.tvx: ")) && unreadable[0].size() > 17,
+                 qPrintable(unreadable[0]));
+        QVERIFY2(unreadable[1].startsWith(QLatin1String("scans/east.tvx: ")) && unreadable[1].size() > 16,
+                 qPrintable(unreadable[1]));
+    }
+
+    void saveFailuresAreReported_data()
+    {
+        QTest::addColumn<QString>("obstacle");
+        QTest::newRow("read-only project") << QStringLiteral("read-only");
+        QTest::newRow("lock taken over") << QStringLiteral("taken over");
+        // Something that is not a file where the project file is: it cannot be replaced.
+        QTest::newRow("project file cannot be replaced") << QStringLiteral("folder");
+        QTest::newRow("disk full") << QStringLiteral("disk full");
+    }
+
+    void saveFailuresAreReported()
+    {
+        QFETCH(QString, obstacle);
+        QTemporaryDir dir;
+        const QString path = makeTypicalProject(dir);
+        const QString lockPath = dir.filePath(QStringLiteral("tvxlock~"));
+        if (obstacle == QLatin1String("read-only"))
+            QVERIFY(QFile::link(dir.filePath(QStringLiteral("missing/lock")), lockPath));
+        QVERIFY(openProject(path).ok);
+        BasicProject& project = BasicProject::instance();
+        project.setOrigin({1, 2, 3});
+        const QByteArray before = readBytes(path);
+        if (obstacle == QLatin1String("taken over"))
+            QVERIFY(writeBytes(lockPath, "user:intruder\n"));
+        if (obstacle == QLatin1String("folder")) {
+            QVERIFY(QFile::remove(path));
+            QVERIFY(QDir(dir.path()).mkpath(QStringLiteral("site.tvxprj/inside")));
+        }
+
+        QString message;
+        bool saved = true;
+        {
+            const FileSizeLimit limit(obstacle == QLatin1String("disk full") ? 16 : RLIM_INFINITY);
+            saved = project.saveProject(message);
+        }
+        QVERIFY(!saved);
+        QVERIFY(project.isModified());
+        if (obstacle == QLatin1String("read-only")) {
+            QCOMPARE(message, QStringLiteral("Changes could not be saved, because the project was opened in read-only mode."));
+        } else if (obstacle == QLatin1String("taken over")) {
+            QVERIFY2(message.contains(QDir::toNativeSeparators(lockPath)), qPrintable(message));
+            QVERIFY(QFile::remove(lockPath));
+        } else {
+            // The file, the serializer's line and the system's reason.
+            QVERIFY2(message.contains(path) && message.contains(QLatin1String("line 5")), qPrintable(message));
+        }
+        if (obstacle != QLatin1String("folder"))
+            QCOMPARE(readBytes(path), before);
+        QVERIFY(!QFile::exists(path + QStringLiteral(".tmp")));
+    }
+
+    // A save that stopped after writing the ".tmp" file and before renaming it.
+    void interruptedSaveIsRecovered_data()
+    {
+        QTest::addColumn<bool>("complete");
+        QTest::newRow("complete copy is taken") << true;
+        QTest::newRow("half-written copy is left alone") << false;
+    }
+
+    void interruptedSaveIsRecovered()
+    {
+        QFETCH(bool, complete);
+        QTemporaryDir dir;
+        const QString path = makeTypicalProject(dir);
+        const QString temporary = path + QStringLiteral(".tmp");
+        const QByteArray bytes = readBytes(path);
+        QVERIFY(QFile::rename(path, temporary));
+        if (!complete)
+            QVERIFY(writeBytes(temporary, bytes.left(bytes.size() / 2)));
+
+        const Opened opened = openProject(path);
+        QVERIFY(opened.ok);
+        QCOMPARE(opened.code, 0);
+        BasicProject& project = BasicProject::instance();
+        QCOMPARE(project.scanCount(), complete ? 3 : 0);
+        QCOMPARE(opened.message.contains(QDir::toNativeSeparators(path)), complete);
+        QCOMPARE(QFile::exists(path), complete);
+        QCOMPARE(QFile::exists(temporary), !complete);
+    }
+
+    // Without room for its line the lock would tell others nothing: the project opens read-only.
+    void lockWithoutItsLineIsNoLock()
+    {
+        QTemporaryDir dir;
+        const QString path = makeTypicalProject(dir);
+        Opened opened;
+        {
+            const FileSizeLimit limit(0);
+            opened = openProject(path);
+        }
+        QVERIFY(opened.ok);
+        QVERIFY(BasicProject::instance().isReadOnly());
+        QVERIFY(!QFile::exists(dir.filePath(QStringLiteral("tvxlock~"))));
     }
 
     void addingUnreadableScanFails()
@@ -449,7 +570,8 @@ private Q_SLOTS:
         project.setCurrentCoordinateSystem(0);
         QCOMPARE(unsaved.count(), 1);
 
-        project.saveProject();
+        QString saveMessage;
+        QVERIFY2(project.saveProject(saveMessage), qPrintable(saveMessage));
         QCOMPARE(unsaved.count(), 2);
         QCOMPARE(unsaved.at(1).at(0).toBool(), false);
         QVERIFY(!QFile::exists(path + QStringLiteral(".tmp")));
@@ -492,7 +614,7 @@ private Q_SLOTS:
         QVERIFY(openWithOneScan(dir, scan));
         ScanPose pose;
         QVERIFY(BasicProject::instance().scanPose(0, pose));
-        QCOMPARE(QList<double>(pose.rotation.begin(), pose.rotation.end()),
+        QCOMPARE(QList<double>(pose.rotation.m.begin(), pose.rotation.m.end()),
                  QList<double>({0.866, -0.5, 0.01, 0.5, 0.866, 0.02, -0.01, -0.02, 0.999}));
         QCOMPARE(pose.translation, Vector3d(10, 20, 1.5));
         QVERIFY(!BasicProject::instance().scanPose(1, pose));

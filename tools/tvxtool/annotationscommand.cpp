@@ -5,13 +5,9 @@
 #include "annotations/annotationfile.h"
 #include "annotations/dimensioningtypename.h"
 #include "annotations/sceneitemstablemodel.h"
-#include "scene/tvxsdimensioning.h"
-#include "scene/tvxsellipse.h"
-#include "scene/tvxspolygon.h"
-#include "scene/tvxsrectangle.h"
-#include "scene/tvxssimpletext.h"
 #include "annotations/viewerscenereader.h"
 #include "scene/scanviewscenegraph.h"
+#include "scene/visit2drecord.h"
 
 #include <QFile>
 
@@ -74,26 +70,33 @@ QJsonArray jsonRect(const QRectF& rect)
 
 QJsonObject planarEntry(const TVXSceneItem& record)
 {
-    if (const auto* polygon = dynamic_cast<const TVXSPolygon*>(&record)) {
-        const QPolygonF points = polygon->polygon();
-        return {{"kind", "polygon"}, {"points", jsonPoints(points.constData(), points.constData() + points.size())}};
-    }
-    if (const auto* ellipse = dynamic_cast<const TVXSEllipse*>(&record))
-        return {{"kind", "ellipse"}, {"rect", jsonRect(ellipse->rectangle())}};
-    if (const auto* rectangle = dynamic_cast<const TVXSRectangle*>(&record))
-        return {{"kind", "rectangle"}, {"rect", jsonRect(rectangle->rectangle())}};
-    if (const auto* text = dynamic_cast<const TVXSSimpleText*>(&record)) {
-        return {{"kind", "text"},
-                {"text", text->text()},
-                {"position", jsonPoint(text->position())},
-                {"offset", jsonPoint(text->offset())}};
-    }
-    if (const auto* dimensioning = dynamic_cast<const TVXSDimensioning*>(&record)) {
-        return {{"kind", "dimensioning"},
-                {"type", dimensioningTypeName(dimensioning->type())},
-                {"points", QJsonArray{jsonPoint(dimensioning->first()), jsonPoint(dimensioning->second())}}};
-    }
-    return {}; // the reader makes no other records
+    QJsonObject entry; // the reader makes no other records
+    visit2DRecord(record, Overloaded{
+                              [&](const TVXSPolygon& polygon) {
+                                  const QPolygonF points = polygon.polygon();
+                                  entry = {{"kind", "polygon"},
+                                           {"points", jsonPoints(points.constData(), points.constData() + points.size())}};
+                              },
+                              [&](const TVXSEllipse& ellipse) {
+                                  entry = {{"kind", "ellipse"}, {"rect", jsonRect(ellipse.rectangle())}};
+                              },
+                              [&](const TVXSRectangle& rectangle) {
+                                  entry = {{"kind", "rectangle"}, {"rect", jsonRect(rectangle.rectangle())}};
+                              },
+                              [&](const TVXSSimpleText& text) {
+                                  entry = {{"kind", "text"},
+                                           {"text", text.text()},
+                                           {"position", jsonPoint(text.position())},
+                                           {"offset", jsonPoint(text.offset())}};
+                              },
+                              [&](const TVXSDimensioning& dimensioning) {
+                                  entry = {{"kind", "dimensioning"},
+                                           {"type", dimensioningTypeName(dimensioning.type())},
+                                           {"points", QJsonArray{jsonPoint(dimensioning.first()),
+                                                                 jsonPoint(dimensioning.second())}}};
+                              },
+                          });
+    return entry;
 }
 
 QJsonArray planarEntries(const SceneItemsTableModel& model)
@@ -113,19 +116,19 @@ QJsonObject sphericalEntry(const char* kind, const ScanViewItem& item)
 QJsonArray sphericalEntries(const ScanViewSceneGraph& graph)
 {
     QJsonArray entries;
-    for (const auto& ellipse : graph.ellipses())
-        entries.append(sphericalEntry("ellipse", *ellipse));
-    for (const auto& polygon : graph.polygons())
-        entries.append(sphericalEntry("polygon", *polygon));
-    for (const auto& rectangle : graph.rectangles())
-        entries.append(sphericalEntry("rectangle", *rectangle));
-    for (const auto& text : graph.textItems())
-        entries.append(QJsonObject{{"kind", "text"}, {"text", text->text()}, {"position", jsonPoint(text->position())}});
-    for (const auto& measurement : graph.measurementItems()) {
-        QJsonObject entry = sphericalEntry("measurement", *measurement);
-        entry.insert(QLatin1String("type"), dimensioningTypeName(measurement->type()));
-        entries.append(entry);
-    }
+    graph.forEachItem(Overloaded{
+        [&](const ScanViewEllipse& ellipse) { entries.append(sphericalEntry("ellipse", ellipse)); },
+        [&](const ScanViewPolygon& polygon) { entries.append(sphericalEntry("polygon", polygon)); },
+        [&](const ScanViewRectangle& rectangle) { entries.append(sphericalEntry("rectangle", rectangle)); },
+        [&](const ScanViewTextItem& text) {
+            entries.append(QJsonObject{{"kind", "text"}, {"text", text.text()}, {"position", jsonPoint(text.position())}});
+        },
+        [&](const ScanViewMeasurementItem& measurement) {
+            QJsonObject entry = sphericalEntry("measurement", measurement);
+            entry.insert(QLatin1String("type"), dimensioningTypeName(measurement.type()));
+            entries.append(entry);
+        },
+    });
     return entries;
 }
 

@@ -72,7 +72,7 @@ public:
         if (m_text) {
             char line[96];
             const int n = std::snprintf(line, sizeof line, "%.9g %.9g %.9g\n", p.x, p.y, p.z);
-            m_out.write(line, n);
+            write(m_out, line, n);
             return;
         }
         char record[15];
@@ -82,7 +82,7 @@ public:
         record[12] = char(r);
         record[13] = char(g);
         record[14] = char(b);
-        m_body.write(record, m_colours == ColourSource::None ? 12 : 15);
+        write(m_body, record, m_colours == ColourSource::None ? 12 : 15);
     }
 
     void finish()
@@ -93,16 +93,37 @@ public:
             if (m_colours != ColourSource::None)
                 header += "property uchar red\nproperty uchar green\nproperty uchar blue\n";
             header += "end_header\n";
-            m_out.write(header);
-            m_body.seek(0);
-            while (!m_body.atEnd())
-                m_out.write(m_body.read(1 << 20));
+            write(m_out, header.constData(), header.size());
+            if (!m_body.seek(0))
+                failed();
+            while (!m_body.atEnd()) {
+                const QByteArray block = m_body.read(1 << 20);
+                if (block.isEmpty())
+                    failed();
+                write(m_out, block.constData(), block.size());
+            }
         }
         if (!m_out.commit())
-            throw CommandError(QStringLiteral("cannot write %1").arg(QFileInfo(m_out.fileName()).absoluteFilePath()).toStdString());
+            failed();
     }
 
 private:
+    // A short write (a full disk, a file size limit) must not leave a cloud with a wrong count.
+    void write(QIODevice& device, const char* data, qint64 size)
+    {
+        if (device.write(data, size) != size)
+            failed();
+    }
+
+    [[noreturn]] void failed()
+    {
+        const QString reason = m_out.error() != QFileDevice::NoError ? m_out.errorString() : m_body.errorString();
+        m_out.cancelWriting();
+        throw CommandError(QStringLiteral("cannot write %1: %2")
+                               .arg(QFileInfo(m_out.fileName()).absoluteFilePath(), reason)
+                               .toStdString());
+    }
+
     QSaveFile m_out;
     ColourSource m_colours;
     bool m_text;
@@ -140,13 +161,7 @@ int runCloud(const QStringList& arguments)
                     if (r % step || tile.distances[i] == 0.0)
                         continue;
                     quint8 red = 0, green = 0, blue = 0;
-                    if (colours == ColourSource::Colour) {
-                        red = tile.colours[3 * i];
-                        green = tile.colours[3 * i + 1];
-                        blue = tile.colours[3 * i + 2];
-                    } else if (colours == ColourSource::Grey) {
-                        red = green = blue = tile.intensities[i];
-                    }
+                    tile.colourOrGrey(i, red, green, blue);
                     writer.add(tile.points[i], red, green, blue);
                 }
             }

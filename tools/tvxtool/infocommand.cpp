@@ -2,18 +2,14 @@
 #include "scanfileopener.h"
 #include "toolcommand.h"
 
-#include "scene/tvxsdimensioning.h"
-#include "scene/tvxsellipse.h"
-#include "scene/tvxspolygon.h"
-#include "scene/tvxsrectangle.h"
 #include "scene/tvxsreferenceobject.h"
-#include "scene/tvxssimpletext.h"
 #include "fileio/tvxfilelayertable.h"
 #include "fileio/tvxfilemetainfo.h"
 #include "fileio/tvxfilereferenceinfo.h"
 #include "fileio/tvxfilescaninfo.h"
 #include "fileio/tvxfilesceneitems.h"
 #include "scene/scanviewscenegraph.h"
+#include "scene/visit2drecord.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -114,29 +110,34 @@ QJsonArray rectangle(const QRectF& r)
 
 QJsonObject sceneItem(const TVXSceneItem& item)
 {
-    if (const auto* polygon = dynamic_cast<const TVXSPolygon*>(&item)) {
-        QJsonArray points;
-        for (const QPointF& p : polygon->polygon())
-            points.append(pair(p.x(), p.y()));
-        return {{QStringLiteral("kind"), 1}, {QStringLiteral("points"), points}};
-    }
-    if (const auto* r = dynamic_cast<const TVXSRectangle*>(&item))
-        return {{QStringLiteral("kind"), 2}, {QStringLiteral("rect"), rectangle(r->rectangle())}};
-    if (const auto* e = dynamic_cast<const TVXSEllipse*>(&item))
-        return {{QStringLiteral("kind"), 3}, {QStringLiteral("rect"), rectangle(e->rectangle())}};
-    if (const auto* t = dynamic_cast<const TVXSSimpleText*>(&item)) {
-        return {{QStringLiteral("kind"), 4},
-                {QStringLiteral("text"), t->text()},
-                {QStringLiteral("position"), pair(t->position().x(), t->position().y())},
-                {QStringLiteral("offset"), pair(t->offset().x(), t->offset().y())}};
-    }
-    if (const auto* d = dynamic_cast<const TVXSDimensioning*>(&item)) {
-        return {{QStringLiteral("kind"), 6},
-                {QStringLiteral("type"), qint64(d->type())},
-                {QStringLiteral("points"), QJsonArray{pair(d->first().x(), d->first().y()),
-                                                      pair(d->second().x(), d->second().y())}}};
-    }
-    return {{QStringLiteral("kind"), 0}};
+    QJsonObject entry{{QStringLiteral("kind"), 0}};
+    visit2DRecord(item, Overloaded{
+                            [&](const TVXSPolygon& polygon) {
+                                QJsonArray points;
+                                for (const QPointF& p : polygon.polygon())
+                                    points.append(pair(p.x(), p.y()));
+                                entry = {{QStringLiteral("kind"), 1}, {QStringLiteral("points"), points}};
+                            },
+                            [&](const TVXSRectangle& r) {
+                                entry = {{QStringLiteral("kind"), 2}, {QStringLiteral("rect"), rectangle(r.rectangle())}};
+                            },
+                            [&](const TVXSEllipse& e) {
+                                entry = {{QStringLiteral("kind"), 3}, {QStringLiteral("rect"), rectangle(e.rectangle())}};
+                            },
+                            [&](const TVXSSimpleText& t) {
+                                entry = {{QStringLiteral("kind"), 4},
+                                         {QStringLiteral("text"), t.text()},
+                                         {QStringLiteral("position"), pair(t.position().x(), t.position().y())},
+                                         {QStringLiteral("offset"), pair(t.offset().x(), t.offset().y())}};
+                            },
+                            [&](const TVXSDimensioning& d) {
+                                entry = {{QStringLiteral("kind"), 6},
+                                         {QStringLiteral("type"), qint64(d.type())},
+                                         {QStringLiteral("points"), QJsonArray{pair(d.first().x(), d.first().y()),
+                                                                               pair(d.second().x(), d.second().y())}}};
+                            },
+                        });
+    return entry;
 }
 
 QJsonObject scene3d(const ScanViewSceneGraph* graph)

@@ -9,44 +9,10 @@ using TVX::CORE::Vector3d;
 
 namespace TVX::TOOL {
 
-namespace {
-
-Vector3d rotate(const std::array<double, 9>& r, const Vector3d& v)
-{
-    return {r[0] * v.x + r[1] * v.y + r[2] * v.z, r[3] * v.x + r[4] * v.y + r[5] * v.z,
-            r[6] * v.x + r[7] * v.y + r[8] * v.z};
-}
-
-Vector3d rotateBack(const std::array<double, 9>& r, const Vector3d& v)
-{
-    return {r[0] * v.x + r[3] * v.y + r[6] * v.z, r[1] * v.x + r[4] * v.y + r[7] * v.z,
-            r[2] * v.x + r[5] * v.y + r[8] * v.z};
-}
-
-std::array<double, 9> product(const std::array<double, 9>& a, const std::array<double, 9>& b)
-{
-    std::array<double, 9> m{};
-    for (int i = 0; i < 3; ++i) {
-        for (int j = 0; j < 3; ++j) {
-            for (int k = 0; k < 3; ++k)
-                m[std::size_t(3 * i + j)] += a[std::size_t(3 * i + k)] * b[std::size_t(3 * k + j)];
-        }
-    }
-    return m;
-}
-
-} // namespace
-
 CORE::ScanPose stationPose(const Vector3d& position, double heading, double tiltX, double tiltY)
 {
-    const double ch = std::cos(heading), sh = std::sin(heading);
-    const double cx = std::cos(tiltX), sx = std::sin(tiltX);
-    const double cy = std::cos(tiltY), sy = std::sin(tiltY);
-    const std::array<double, 9> rz{ch, -sh, 0, sh, ch, 0, 0, 0, 1};
-    const std::array<double, 9> ry{cy, 0, sy, 0, 1, 0, -sy, 0, cy};
-    const std::array<double, 9> rx{1, 0, 0, 0, cx, -sx, 0, sx, cx};
     CORE::ScanPose pose;
-    pose.rotation = product(rz, product(ry, rx));
+    pose.rotation = CORE::Matrix3d::rotationZ(heading) * CORE::Matrix3d::rotationY(tiltY) * CORE::Matrix3d::rotationX(tiltX);
     pose.translation = position;
     return pose;
 }
@@ -68,7 +34,7 @@ CORE::TVXFileCell ScannerSimulator::measure(quint32 column, quint32 row)
     cell.dy = qint8(int(hashOf(seed, column, row, 2) % 101) - 50);
     const double horizontal = CORE::columnAngle(column, m_grid) + CORE::subCellAngle(cell.dx, m_grid.halfDiagonal);
     const double vertical = CORE::rowAngle(row, m_grid) + CORE::subCellAngle(cell.dy, m_grid.halfDiagonal);
-    const Vector3d direction = rotate(m_station.pose.rotation, CORE::pointFromAngles(horizontal, vertical, 1.0));
+    const Vector3d direction = m_station.pose.rotation * CORE::pointFromAngles(horizontal, vertical, 1.0);
 
     SurfaceHit hit;
     QRgb colour = 0;
@@ -100,7 +66,7 @@ CORE::TVXFileCell ScannerSimulator::measure(quint32 column, quint32 row)
 
 Vector3d ScannerSimulator::toScanFrame(const Vector3d& scenePoint) const
 {
-    return rotateBack(m_station.pose.rotation, scenePoint - m_station.pose.translation);
+    return m_station.pose.rotation.transposed() * (scenePoint - m_station.pose.translation);
 }
 
 QPointF ScannerSimulator::planarPosition(const Vector3d& scenePoint) const

@@ -4,7 +4,7 @@
 
 #include "fileio/scangeometry.h"
 #include "fileio/tvxfilewriter.h"
-#include "project/scanpose.h"
+#include "scene/scanpose.h"
 
 #include <QImage>
 #include <QPointF>

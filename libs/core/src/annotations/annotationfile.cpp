@@ -58,7 +58,9 @@ bool AnnotationFile::write(const QString& filePath, const SceneItemsTableModel& 
     }
     ViewerSceneWriter writer(&file);
     if (!writer.write(model, graph)) {
-        setError(error, file.errorString());
+        const QStringList skipped = writer.skippedItems();
+        setError(error, skipped.isEmpty() ? file.errorString()
+                                          : QStringLiteral("items that the file cannot hold: %1").arg(skipped.join(QStringLiteral("; "))));
         file.cancelWriting();
         return false;
     }

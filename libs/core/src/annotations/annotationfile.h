@@ -24,7 +24,8 @@ public:
     static bool load(const QString& scanPath, SceneItemsTableModel& model, ScanViewSceneGraph* graph, QString* error = nullptr);
     // Writes the scan's annotation file from `model` and `graph` (may be null). The text goes to a
     // temporary file that replaces the annotation file only once it is complete, so a failed or
-    // interrupted save leaves the previous file as it was.
+    // interrupted save leaves the previous file as it was. An item that the file cannot hold fails
+    // the save (`error` names it) rather than dropping it silently.
     static bool save(const QString& scanPath, const SceneItemsTableModel& model, const ScanViewSceneGraph* graph, QString* error = nullptr);
 
     // As load and save, for an annotation file named directly.

@@ -2,12 +2,8 @@
 
 #include "annotations/dimensioningtypename.h"
 #include "annotations/sceneitemstablemodel.h"
-#include "scene/tvxsdimensioning.h"
-#include "scene/tvxsellipse.h"
-#include "scene/tvxspolygon.h"
-#include "scene/tvxsrectangle.h"
-#include "scene/tvxssimpletext.h"
 #include "scene/scanviewscenegraph.h"
+#include "scene/visit2drecord.h"
 
 #include <QIODevice>
 #include <QLoggingCategory>
@@ -48,6 +44,22 @@ QString escapeViewerSceneText(const QString& text)
     escaped.replace(QLatin1Char('&'), QLatin1String("&amp;"));
     escaped.replace(QLatin1Char('<'), QLatin1String("&lt;"));
     escaped.replace(QLatin1Char('>'), QLatin1String("&gt;"));
+    // What XML cannot carry as it is: a parser turns a raw carriage return into a line feed, so it
+    // goes as a character reference; the other control characters would make the whole file
+    // unreadable, so each becomes U+FFFD.
+    if (std::any_of(escaped.cbegin(), escaped.cend(), [](QChar c) { return c.unicode() < 0x20; })) {
+        QString safe;
+        safe.reserve(escaped.size());
+        for (const QChar c : std::as_const(escaped)) {
+            if (c == QLatin1Char('\r'))
+                safe += QLatin1String("&#13;");
+            else if (c.unicode() < 0x20 && c != QLatin1Char('\n') && c != QLatin1Char('\t'))
+                safe += QChar(QChar::ReplacementCharacter);
+            else
+                safe += c;
+        }
+        escaped = safe;
+    }
     return escaped;
 }
 
@@ -126,6 +138,15 @@ struct ViewerSceneWriter::Private {
         endChild(name);
     }
 
+    // Items that the file cannot carry are left out and named here.
+    void skip(const QString& what)
+    {
+        qCWarning(lcSceneWriter) << what << "not written";
+        skipped << what;
+    }
+
+    QStringList skipped;
+
     void writeRecord(const TVXSceneItem& record);
     void writeSphericalItems(const ScanViewSceneGraph& graph);
     void writeThreePointItem(const char* name, const char* childName, const ScanViewItem& item);
@@ -133,47 +154,48 @@ struct ViewerSceneWriter::Private {
 
 void ViewerSceneWriter::Private::writeRecord(const TVXSceneItem& record)
 {
-    if (const auto* polygon = dynamic_cast<const TVXSPolygon*>(&record)) {
-        openItem("polygonitem");
-        for (const QPointF& point : polygon->polygon())
-            writePoint("point", point);
-        closeItem("polygonitem");
-    } else if (const auto* ellipse = dynamic_cast<const TVXSEllipse*>(&record)) {
-        const QRectF r = ellipse->rectangle();
-        openItem("ellipseitem");
+    const auto rectangleItem = [this](const char* name, const QRectF& r) {
+        openItem(name);
         writeNumbers<float>("rectangle", {float(r.x()), float(r.y()), float(r.width()), float(r.height())});
-        closeItem("ellipseitem");
-    } else if (const auto* rectangle = dynamic_cast<const TVXSRectangle*>(&record)) {
-        const QRectF r = rectangle->rectangle();
-        openItem("rectangleitem");
-        writeNumbers<float>("rectangle", {float(r.x()), float(r.y()), float(r.width()), float(r.height())});
-        closeItem("rectangleitem");
-    } else if (const auto* text = dynamic_cast<const TVXSSimpleText*>(&record)) {
-        // The offset is not stored: readers take (0, 0).
-        openItem("textitem");
-        writeNumbers<int>("position", {truncatedCell(text->position().x()), truncatedCell(text->position().y())});
-        writeText(text->text());
-        closeItem("textitem");
-    } else if (const auto* dimensioning = dynamic_cast<const TVXSDimensioning*>(&record)) {
-        const QString type = dimensioningTypeName(dimensioning->type());
-        if (type.isNull()) {
-            qCWarning(lcSceneWriter) << "dimensioning of unknown type" << dimensioning->type() << "not written";
-            return;
-        }
-        // Grid positions of dimensionings keep double precision.
-        openItem("dimensioningitem", type);
-        writeNumbers<double>("point", {dimensioning->first().x(), dimensioning->first().y()});
-        writeNumbers<double>("point", {dimensioning->second().x(), dimensioning->second().y()});
-        closeItem("dimensioningitem");
-    }
+        closeItem(name);
+    };
+    const bool known = visit2DRecord(
+        record, Overloaded{
+                    [this](const TVXSPolygon& polygon) {
+                        openItem("polygonitem");
+                        for (const QPointF& point : polygon.polygon())
+                            writePoint("point", point);
+                        closeItem("polygonitem");
+                    },
+                    [&](const TVXSEllipse& ellipse) { rectangleItem("ellipseitem", ellipse.rectangle()); },
+                    [&](const TVXSRectangle& rectangle) { rectangleItem("rectangleitem", rectangle.rectangle()); },
+                    [this](const TVXSSimpleText& text) {
+                        // The offset is not stored: readers take (0, 0).
+                        openItem("textitem");
+                        writeNumbers<int>("position",
+                                          {truncatedCell(text.position().x()), truncatedCell(text.position().y())});
+                        writeText(text.text());
+                        closeItem("textitem");
+                    },
+                    [this](const TVXSDimensioning& dimensioning) {
+                        const QString type = dimensioningTypeName(dimensioning.type());
+                        if (type.isNull())
+                            return skip(QStringLiteral("planar dimensioning of unknown type %1").arg(dimensioning.type()));
+                        // Grid positions of dimensionings keep double precision.
+                        openItem("dimensioningitem", type);
+                        writeNumbers<double>("point", {dimensioning.first().x(), dimensioning.first().y()});
+                        writeNumbers<double>("point", {dimensioning.second().x(), dimensioning.second().y()});
+                        closeItem("dimensioningitem");
+                    },
+                });
+    if (!known)
+        skip(QStringLiteral("planar record of category %1 that is no annotation").arg(record.category()));
 }
 
 void ViewerSceneWriter::Private::writeThreePointItem(const char* name, const char* childName, const ScanViewItem& item)
 {
-    if (item.points().size() < 3) {
-        qCWarning(lcSceneWriter) << name << "with" << item.points().size() << "points not written";
-        return;
-    }
+    if (item.points().size() < 3)
+        return skip(QStringLiteral("%1 with %2 points").arg(QLatin1String(name)).arg(item.points().size()));
     openItem(name);
     writeThreePoints(childName, item.points());
     closeItem(name);
@@ -181,38 +203,37 @@ void ViewerSceneWriter::Private::writeThreePointItem(const char* name, const cha
 
 void ViewerSceneWriter::Private::writeSphericalItems(const ScanViewSceneGraph& graph)
 {
-    for (const auto& ellipse : graph.ellipses())
-        writeThreePointItem("ellipseitem_spherical", "ellipse_3d", *ellipse);
-    for (const auto& polygon : graph.polygons()) {
-        openItem("polygonitem_spherical");
-        for (const Vector3d& point : polygon->points())
-            writePoint("point_3d", point);
-        closeItem("polygonitem_spherical");
-    }
-    for (const auto& rectangle : graph.rectangles())
-        writeThreePointItem("rectangleitem_spherical", "rectangle_3d", *rectangle);
-    for (const auto& text : graph.textItems()) {
-        if (text->points().empty()) {
-            qCWarning(lcSceneWriter) << "text item without position not written";
-            continue;
-        }
-        openItem("textitem_spherical");
-        writePoint("position", text->points().front());
-        writeText(text->text());
-        closeItem("textitem_spherical");
-    }
-    for (const auto& measurement : graph.measurementItems()) {
-        const QString type = dimensioningTypeName(measurement->type());
-        if (type.isNull() || measurement->points().size() < 2) {
-            qCWarning(lcSceneWriter) << "measurement of type" << measurement->type() << "with"
-                                     << measurement->points().size() << "points not written";
-            continue;
-        }
-        openItem("dimensioningitem_spherical", type);
-        writePoint("point_3d", measurement->points()[0]);
-        writePoint("point_3d", measurement->points()[1]);
-        closeItem("dimensioningitem_spherical");
-    }
+    graph.forEachItem(Overloaded{
+        [this](const ScanViewEllipse& ellipse) { writeThreePointItem("ellipseitem_spherical", "ellipse_3d", ellipse); },
+        [this](const ScanViewPolygon& polygon) {
+            openItem("polygonitem_spherical");
+            for (const Vector3d& point : polygon.points())
+                writePoint("point_3d", point);
+            closeItem("polygonitem_spherical");
+        },
+        [this](const ScanViewRectangle& rectangle) {
+            writeThreePointItem("rectangleitem_spherical", "rectangle_3d", rectangle);
+        },
+        [this](const ScanViewTextItem& text) {
+            if (text.points().empty())
+                return skip(QStringLiteral("spherical text item \"%1\" without position").arg(text.text()));
+            openItem("textitem_spherical");
+            writePoint("position", text.points().front());
+            writeText(text.text());
+            closeItem("textitem_spherical");
+        },
+        [this](const ScanViewMeasurementItem& measurement) {
+            const QString type = dimensioningTypeName(measurement.type());
+            if (type.isNull() || measurement.points().size() < 2)
+                return skip(QStringLiteral("spherical measurement of type %1 with %2 points")
+                                .arg(measurement.type())
+                                .arg(measurement.points().size()));
+            openItem("dimensioningitem_spherical", type);
+            writePoint("point_3d", measurement.points()[0]);
+            writePoint("point_3d", measurement.points()[1]);
+            closeItem("dimensioningitem_spherical");
+        },
+    });
 }
 
 ViewerSceneWriter::ViewerSceneWriter(QIODevice* device) : d(std::make_unique<Private>(device)) {}
@@ -233,7 +254,12 @@ bool ViewerSceneWriter::write(const SceneItemsTableModel& model, const ScanViewS
         d->writeSphericalItems(*graph);
     out << "</tvxviewerscene>\n";
     out.flush();
-    return out.status() == QTextStream::Ok;
+    return out.status() == QTextStream::Ok && d->skipped.isEmpty();
+}
+
+QStringList ViewerSceneWriter::skippedItems() const
+{
+    return d->skipped;
 }
 
 } // namespace TVX::CORE

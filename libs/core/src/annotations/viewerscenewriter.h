@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -25,17 +26,24 @@ public:
     ViewerSceneWriter& operator=(const ViewerSceneWriter&) = delete;
 
     // Writes the whole document. Records other than polygons, rectangles, ellipses, texts and
-    // dimensionings are not written, nor are items that the file cannot carry (a dimensioning or
-    // measurement of an unknown type, a spherical item short of its points). `graph` may be null:
-    // then only the planar records are written. False when the device failed to take the text.
+    // dimensionings are left out, and so are items that the file cannot carry (a dimensioning or
+    // measurement of an unknown type, a spherical item short of its points); skippedItems() names
+    // them. `graph` may be null: then only the planar records are written. False when the device
+    // failed to take the text or anything was left out, so that a caller never replaces a file
+    // with one that lost an annotation.
     bool write(const SceneItemsTableModel& model, const ScanViewSceneGraph* graph);
+    // What the last write left out, one description per item.
+    QStringList skippedItems() const;
 
 private:
     struct Private;
     std::unique_ptr<Private> d;
 };
 
-// Text content as written: "&", "<" and ">" replaced, in this order, by their entities.
+// Text content as written: "&", "<" and ">" replaced, in this order, by their entities. A carriage
+// return is written as "&#13;" so that it reads back as itself, and the control characters that
+// XML cannot hold (below U+0020 except tab and line feed) as U+FFFD, so that the file stays
+// readable.
 QString escapeViewerSceneText(const QString& text);
 // An attribute value as written, without its enclosing quotes: escaped as text, then each
 // double quote replaced by "&quot;".

@@ -429,16 +429,14 @@ bool TVXFile::readPointAndColour(quint32 column, quint32 row, double& x, double&
 {
     if (!readPoint(column, row, x, y, z, valid))
         return false;
-    if (d->scanInfo->hasColour())
-        return readColour(column, row, r, g, b);
-    if (d->scanInfo->hasIntensity()) {
-        // Grey from the intensity.
-        if (!readIntensity(column, row, r))
-            return false;
-        g = b = r;
-        return true;
-    }
-    return false;
+    quint8 colour[3] = {};
+    quint8 intensity = 0;
+    const bool hasColour = d->scanInfo->hasColour();
+    const bool hasIntensity = !hasColour && d->scanInfo->hasIntensity();
+    if ((hasColour && !readColour(column, row, colour[0], colour[1], colour[2]))
+        || (hasIntensity && !readIntensity(column, row, intensity)))
+        return false;
+    return colourOrGrey(hasColour ? colour : nullptr, hasIntensity ? &intensity : nullptr, r, g, b);
 }
 
 bool TVXFile::readTileRecords(quint32 tileColumn, quint32 tileRow, std::vector<char>& records)

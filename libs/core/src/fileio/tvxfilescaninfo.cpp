@@ -1,5 +1,7 @@
 #include "fileio/tvxfilescaninfo.h"
 
+#include "scene/scanpose.h"
+
 #include "fileio/sectionstream.h"
 
 #include <algorithm>
@@ -111,15 +113,12 @@ void TVXFileScanInfo::write(QDataStream& stream) const
 
 Vector3d TVXFileScanInfo::translation() const
 {
-    return {transformation[3], transformation[7], transformation[11]};
+    return poseFromTransformation(transformation).translation;
 }
 
 Vector3d TVXFileScanInfo::toProjectFrame(const Vector3d& point) const
 {
-    const auto& m = transformation; // row by row
-    return Vector3d(m[0] * point.x + m[1] * point.y + m[2] * point.z, m[4] * point.x + m[5] * point.y + m[6] * point.z,
-                    m[8] * point.x + m[9] * point.y + m[10] * point.z)
-           + translation();
+    return TVX::CORE::toProjectFrame(poseFromTransformation(transformation), point);
 }
 
 GridAngles TVXFileScanInfo::gridAngles() const

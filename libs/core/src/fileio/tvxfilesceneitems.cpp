@@ -1,10 +1,6 @@
 #include "fileio/tvxfilesceneitems.h"
 
-#include "scene/tvxsdimensioning.h"
-#include "scene/tvxsellipse.h"
-#include "scene/tvxspolygon.h"
-#include "scene/tvxsrectangle.h"
-#include "scene/tvxssimpletext.h"
+#include "scene/visit2drecord.h"
 #include "fileio/scanfilelog.h"
 #include "fileio/sectionstream.h"
 #include "scene/scanviewscenegraph.h"
@@ -168,26 +164,34 @@ void failWrite(QDataStream& stream, const char* what)
 bool write2DItem(QDataStream& stream, const TVXSceneItem& item)
 {
     using Kind = TVXFileSceneItems::ItemKind;
-    if (const auto* polygon = dynamic_cast<const TVXSPolygon*>(&item)) {
-        const QPolygonF points = polygon->polygon();
-        stream << quint32(Kind::Polygon2D) << quint32(points.size());
-        for (const QPointF& point : points)
-            writePoint2D(stream, point);
-    } else if (const auto* rectangle = dynamic_cast<const TVXSRectangle*>(&item)) {
-        stream << quint32(Kind::Rectangle2D);
-        writeRect(stream, rectangle->rectangle());
-    } else if (const auto* ellipse = dynamic_cast<const TVXSEllipse*>(&item)) {
-        stream << quint32(Kind::Ellipse2D);
-        writeRect(stream, ellipse->rectangle());
-    } else if (const auto* text = dynamic_cast<const TVXSSimpleText*>(&item)) {
-        stream << quint32(Kind::Text2D) << text->text();
-        writePoint2D(stream, text->position());
-        writePoint2D(stream, text->offset());
-    } else if (const auto* dimensioning = dynamic_cast<const TVXSDimensioning*>(&item)) {
-        stream << quint32(Kind::Dimensioning2D) << qint32(dimensioning->type());
-        writePoint2D(stream, dimensioning->first());
-        writePoint2D(stream, dimensioning->second());
-    } else {
+    const bool known = visit2DRecord(
+        item, Overloaded{
+                  [&](const TVXSPolygon& polygon) {
+                      const QPolygonF points = polygon.polygon();
+                      stream << quint32(Kind::Polygon2D) << quint32(points.size());
+                      for (const QPointF& point : points)
+                          writePoint2D(stream, point);
+                  },
+                  [&](const TVXSRectangle& rectangle) {
+                      stream << quint32(Kind::Rectangle2D);
+                      writeRect(stream, rectangle.rectangle());
+                  },
+                  [&](const TVXSEllipse& ellipse) {
+                      stream << quint32(Kind::Ellipse2D);
+                      writeRect(stream, ellipse.rectangle());
+                  },
+                  [&](const TVXSSimpleText& text) {
+                      stream << quint32(Kind::Text2D) << text.text();
+                      writePoint2D(stream, text.position());
+                      writePoint2D(stream, text.offset());
+                  },
+                  [&](const TVXSDimensioning& dimensioning) {
+                      stream << quint32(Kind::Dimensioning2D) << qint32(dimensioning.type());
+                      writePoint2D(stream, dimensioning.first());
+                      writePoint2D(stream, dimensioning.second());
+                  },
+              });
+    if (!known) {
         failWrite(stream, "a scene record that is no 2D record");
         return false;
     }

@@ -9,6 +9,23 @@
 
 namespace TVX::CORE {
 
+// A cell's colour as the viewer shows it: its colour triple when the scan has one, else its
+// intensity as grey. Either pointer may be null (no such channel); false when both are.
+inline bool colourOrGrey(const quint8* colour, const quint8* intensity, quint8& red, quint8& green, quint8& blue)
+{
+    if (colour) {
+        red = colour[0];
+        green = colour[1];
+        blue = colour[2];
+        return true;
+    }
+    if (intensity) {
+        red = green = blue = *intensity;
+        return true;
+    }
+    return false;
+}
+
 // One decoded block of a scan's grid. Cells are stored column by column: cell (c, r) is at
 // index (c − firstColumn) × height() + (r − firstRow). Points are in the scan frame, metres.
 struct TVXFileTile {
@@ -26,6 +43,12 @@ struct TVXFileTile {
     std::size_t indexOf(quint32 column, quint32 row) const
     {
         return std::size_t(column - firstColumn) * height() + (row - firstRow);
+    }
+    // The colour, else the intensity as grey, of the cell at `index`; false with neither channel.
+    bool colourOrGrey(std::size_t index, quint8& red, quint8& green, quint8& blue) const
+    {
+        return TVX::CORE::colourOrGrey(3 * index + 2 < colours.size() ? &colours[3 * index] : nullptr,
+                                       index < intensities.size() ? &intensities[index] : nullptr, red, green, blue);
     }
 };
 

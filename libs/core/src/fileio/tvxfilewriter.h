@@ -1,5 +1,6 @@
 #pragma once
 
+#include "scene/softwareversion.h"
 #include "scene/tvxsceneitem.h"
 
 #include <QString>
@@ -39,7 +40,7 @@ public:
     TVXFileWriter(const TVXFileWriter&) = delete;
     TVXFileWriter& operator=(const TVXFileWriter&) = delete;
 
-    quint32 writerMajor = 2021, writerMinor = 1, writerPatch = 151;
+    quint32 writerMajor = SoftwareVersion::major, writerMinor = SoftwareVersion::minor, writerPatch = SoftwareVersion::patch;
 
     // The sections to write; the grid geometry and channels come from scanInfo().
     TVXFileScanInfo& scanInfo();

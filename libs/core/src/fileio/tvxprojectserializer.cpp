@@ -1,13 +1,19 @@
 #include "fileio/tvxprojectserializer.h"
 
 #include "fileio/filereaderror.h"
+#include "scene/softwareversion.h"
 
 #include <QDataStream>
 #include <QFile>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QtEndian>
 
+#include <cerrno>
+#include <cstdio>
 #include <cstring>
+
+#include <unistd.h>
 
 Q_LOGGING_CATEGORY(lcProjectFile, "tvx.fileio.project", QtWarningMsg)
 
@@ -16,9 +22,9 @@ namespace TVX::CORE {
 namespace {
 
 // Version of the software that writes the file, stored in its header.
-constexpr quint32 writtenMajor = 2021;
-constexpr quint32 writtenMinor = 1;
-constexpr quint32 writtenPatch = 151;
+constexpr quint32 writtenMajor = SoftwareVersion::major;
+constexpr quint32 writtenMinor = SoftwareVersion::minor;
+constexpr quint32 writtenPatch = SoftwareVersion::patch;
 
 constexpr quint32 fileBeginTag = 0x200000;
 constexpr quint32 projectBeginTag = 0x210000;
@@ -362,9 +368,12 @@ void TVXProjectSerializer::write(const TVXProjectContent& content)
     if (!d->file.isOpen() || !d->file.isWritable() || d->file.fileName() != temporary)
         throw fileReadError(moduleName, 520);
     const QByteArray bytes = encode(content);
-    const bool written = d->file.write(bytes) == bytes.size() && d->file.flush();
+    // The bytes reach the disk before the rename, so that a crash leaves the old or the new file.
+    const bool written = d->file.write(bytes) == bytes.size() && d->file.flush() && ::fsync(d->file.handle()) == 0;
+    const QString writeError = d->file.errorString();
     d->file.close();
     if (!written || d->file.error() != QFileDevice::NoError) {
+        d->error = QStringLiteral("%1: %2").arg(temporary, writeError);
         QFile::remove(temporary);
         throw fileReadError(moduleName, 520);
     }
@@ -373,12 +382,19 @@ void TVXProjectSerializer::write(const TVXProjectContent& content)
     d->writerMinor = writtenMinor;
     d->writerPatch = writtenPatch;
 
-    if (QFile::exists(d->path) && !QFile::remove(d->path)) {
+    // One rename replaces the old file atomically, so there is no moment without a project file
+    // (instead of removing the old file first). A write-protected file, or something that is not
+    // a file, is refused before, as its removal would have been.
+    const QFileInfo old(d->path);
+    if (old.exists() && (!old.isFile() || !old.isWritable())) {
+        d->error = QStringLiteral("%1 is write-protected or not a file and cannot be replaced").arg(d->path);
         QFile::remove(temporary);
         throw fileReadError(moduleName, 508);
     }
-    if (!QFile::rename(temporary, d->path))
+    if (std::rename(QFile::encodeName(temporary).constData(), QFile::encodeName(d->path).constData()) != 0) {
+        d->error = QStringLiteral("renaming %1: %2").arg(temporary, QString::fromLocal8Bit(std::strerror(errno)));
         throw fileReadError(moduleName, 515);
+    }
 }
 
 quint32 TVXProjectSerializer::formatVersion() const

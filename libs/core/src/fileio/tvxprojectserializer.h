@@ -14,10 +14,13 @@ namespace TVX::CORE {
 // the item tree, each behind its tag. Reading accepts format versions up to 3 and leaves out what
 // older formats lack (no coordinate systems below version 2); writing always writes version 3.
 //
-// A file is written to "<path>.tmp" first and renamed over the project file afterwards. Writing
-// failures throw std::ios_base::failure "file read error libs/core/src/fileio/tvxprojectserializer,
-// line N": 508 when the old project file cannot be removed (the ".tmp" file is removed then), 515
-// when the rename fails (the ".tmp" file stays as the only copy), 520 when the stream fails.
+// A file is written to "<path>.tmp" first, flushed to the disk and renamed over the project file
+// in one atomic step, so that a crash leaves either the old or the new file (and at worst a
+// complete ".tmp" file that opening a project recovers). Writing failures throw
+// std::ios_base::failure "file read error libs/core/src/fileio/tvxprojectserializer, line N":
+// 508 when the old project file is write-protected or not a file (the ".tmp" file is removed
+// then), 515 when the rename fails (the ".tmp" file stays as the only copy), 520 when the stream
+// fails. errorString() then tells the cause.
 class TVXProjectSerializer final
 {
 public:
@@ -57,7 +60,8 @@ public:
     quint32 writerMinor() const;
     quint32 writerPatch() const;
 
-    // Why the last read failed, naming the byte position; empty after a successful read.
+    // Why the last read or write failed, naming the byte position or the file and the system's
+    // reason; empty after a successful read.
     QString errorString() const;
 
 private:

@@ -49,16 +49,7 @@ bool sampleOfTile(const TVXFileTile& tile, quint32 column, quint32 row, CellSamp
     sample.point = tile.points[at];
     sample.distance = tile.distances[at];
     sample.valid = sample.distance != 0.0;
-    sample.hasColour = false;
-    if (3 * at + 2 < tile.colours.size()) {
-        sample.red = tile.colours[3 * at];
-        sample.green = tile.colours[3 * at + 1];
-        sample.blue = tile.colours[3 * at + 2];
-        sample.hasColour = true;
-    } else if (at < tile.intensities.size()) {
-        sample.red = sample.green = sample.blue = tile.intensities[at];
-        sample.hasColour = true;
-    }
+    sample.hasColour = tile.colourOrGrey(at, sample.red, sample.green, sample.blue);
     return true;
 }
 
@@ -106,6 +97,8 @@ struct BasicProject::Private {
     std::vector<ScanEntry> scans;
     // Scans of the tree whose header could not be read, by identifier: kept for the next save.
     std::map<quint32, QString> unreadable;
+    // Why each of them could not be read, for the user: "<path>: <reason>".
+    QStringList unreadableReasons;
     TVXFileTileCache tileCache;
     QSharedPointer<FileTreeModel> model;
 
@@ -182,6 +175,18 @@ bool BasicProject::openProject(const QString& path, const QString& userName, int
 
     code = Opened;
     TVXProjectContent content;
+    // A save that stopped between writing "<file>.tmp" and renaming it leaves only the ".tmp"
+    // file; when it reads completely it is the newest project and takes the file's place.
+    const QString temporary = projectFile + QStringLiteral(".tmp");
+    if (!QFile::exists(projectFile) && QFile::exists(temporary) && !readOnly) {
+        TVXProjectSerializer check(temporary);
+        TVXProjectContent ignored;
+        if (check.open(TVXProjectSerializer::ReadOnly) && check.read(ignored)) {
+            check.close();
+            if (QFile::rename(temporary, projectFile))
+                message = ProjectMessages::recovered(QDir::toNativeSeparators(projectFile));
+        }
+    }
     if (QFile::exists(projectFile)) {
         TVXProjectSerializer serializer(projectFile);
         if (!serializer.open(TVXProjectSerializer::ReadOnly) || !serializer.read(content)) {
@@ -189,14 +194,15 @@ bool BasicProject::openProject(const QString& path, const QString& userName, int
             code = ReadFailed;
             message = ProjectMessages::readFailure(QDir::toNativeSeparators(projectFile), serializer.formatVersion(),
                                                    serializer.writerMajor(), serializer.writerMinor(),
-                                                   serializer.writerPatch());
+                                                   serializer.writerPatch())
+                      + ProjectMessages::cause(serializer.errorString());
             if (!readOnly)
                 lock->release();
             return false;
         }
         if (serializer.formatVersion() < TVXProjectSerializer::currentFormatVersion) {
             code = OpenedOlderFormat;
-            message = ProjectMessages::olderFormat(serializer.formatVersion(), serializer.writerMajor(),
+            message += ProjectMessages::olderFormat(serializer.formatVersion(), serializer.writerMajor(),
                                                    serializer.writerMinor(), serializer.writerPatch());
         }
     } else {
@@ -226,8 +232,11 @@ void BasicProject::installContent(TVXProjectContent& content)
 
     const QStringList& listed = content.scans;
     for (int i = 0; i < listed.size(); ++i) {
-        if (!listed[i].isEmpty() && !attachScan(quint32(i), listed[i]))
+        QString reason;
+        if (!listed[i].isEmpty() && !attachScan(quint32(i), listed[i], reason)) {
             d->unreadable[quint32(i)] = listed[i];
+            d->unreadableReasons << QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(listed[i]), reason);
+        }
     }
     // Every scan node must name a listed scan of its own: nodes of unlisted or already named
     // identifiers are dropped, listed scans without a node get one in the root folder.
@@ -250,19 +259,24 @@ void BasicProject::installContent(TVXProjectContent& content)
     d->model->setRootHolder(d->holder);
 }
 
-bool BasicProject::attachScan(quint32 scanId, const QString& relativePath)
+bool BasicProject::attachScan(quint32 scanId, const QString& relativePath, QString& reason)
 {
     const QString path = QDir(d->directory).absoluteFilePath(relativePath);
     auto file = std::make_shared<TVXFile>(path);
     bool read = false;
     try {
-        read = file->open(0) && file->readHeader();
+        if (!file->open(0))
+            reason = tr("the file cannot be opened");
+        else if (!(read = file->readHeader()))
+            reason = file->errorString();
     } catch (const std::exception& error) {
-        qCInfo(lcProject) << path << error.what();
+        reason = QString::fromLocal8Bit(error.what());
     }
     file->close();
     if (!read) {
-        qCInfo(lcProject) << "scan not added:" << path << file->errorString();
+        if (reason.isEmpty())
+            reason = tr("the header cannot be read");
+        qCInfo(lcProject) << "scan not added:" << path << reason;
         return false;
     }
     ScanEntry entry;
@@ -306,6 +320,7 @@ void BasicProject::clear()
     d->holder.reset();
     d->scans.clear();
     d->unreadable.clear();
+    d->unreadableReasons.clear();
     d->tileCache.clear();
     d->lock.reset();
     d->open = d->readOnly = d->lockOwned = false;
@@ -318,10 +333,19 @@ void BasicProject::clear()
     announceUnsavedChanges();
 }
 
-void BasicProject::saveProject()
+bool BasicProject::saveProject(QString& message)
 {
+    message.clear();
     if (!d->open)
-        return;
+        return true;
+    if (d->readOnly) {
+        message = ProjectMessages::readOnly();
+        return false;
+    }
+    if (!ownsLock()) {
+        message = ProjectMessages::lockNotOwned(QDir::toNativeSeparators(d->lock->path()));
+        return false;
+    }
     TVXProjectContent content;
     content.origin = d->origin;
     content.coordinateSystems = d->coordinateSystems;
@@ -337,9 +361,25 @@ void BasicProject::saveProject()
             content.scans[qsizetype(id)] = path;
     }
     TVXProjectSerializer serializer(d->projectFile);
-    serializer.open(TVXProjectSerializer::WriteOnly);
-    serializer.write(content);
+    try {
+        if (!serializer.open(TVXProjectSerializer::WriteOnly)) {
+            message = ProjectMessages::writeFailure(QDir::toNativeSeparators(d->projectFile), serializer.errorString());
+            return false;
+        }
+        serializer.write(content);
+    } catch (const std::exception& error) {
+        message = ProjectMessages::writeFailure(QDir::toNativeSeparators(d->projectFile),
+                                                QString::fromLocal8Bit(error.what()) + QStringLiteral(": ")
+                                                    + serializer.errorString());
+        return false;
+    }
     setModified(false);
+    return true;
+}
+
+QStringList BasicProject::unreadableScans() const
+{
+    return d->unreadableReasons;
 }
 
 bool BasicProject::isOpen() const
@@ -483,15 +523,22 @@ quint32 BasicProject::unusedScanId() const
     return id;
 }
 
-qint64 BasicProject::addScan(const QString& path, const ProjectItemScanGroupPtr& folder)
+qint64 BasicProject::addScan(const QString& path, const ProjectItemScanGroupPtr& folder, QString* reason)
 {
-    if (!d->open)
+    QString why;
+    if (!d->open) {
+        if (reason)
+            *reason = tr("no project is open");
         return -1;
+    }
     const QDir directory(d->directory);
     const QString absolute = directory.absoluteFilePath(path);
     const quint32 id = unusedScanId();
-    if (!attachScan(id, directory.relativeFilePath(absolute)))
+    if (!attachScan(id, directory.relativeFilePath(absolute), why)) {
+        if (reason)
+            *reason = why;
         return -1;
+    }
     const ProjectItemScanGroupPtr parent = folder ? folder : rootFolder();
     d->model->addScan(d->model->indexOf(parent.get()), ProjectItemScan::create(QFileInfo(absolute).completeBaseName(), id));
     return id;

@@ -3,7 +3,7 @@
 #include "fileio/tvxprojectcontent.h"
 #include "scene/vector3d.h"
 #include "project/projectitemscangroup.h"
-#include "project/scanpose.h"
+#include "scene/scanpose.h"
 
 #include <QImage>
 #include <QList>
@@ -63,7 +63,8 @@ public:
     static QString userNameFromSettings();
 
     // Opens the project whose project file is `path` (it need not exist yet: the project then
-    // starts empty). Takes the lock in the project directory for `userName`, or opens read-only
+    // starts empty; a complete "<path>.tmp" left by an interrupted save is taken instead, and the
+    // message says so with code 0). Takes the lock in the project directory for `userName`, or opens read-only
     // when the lock cannot be created. Codes: 0, 1 (a project is open), 3 (locked by others; the
     // message names them), 7 (the project file cannot be read; the lock taken is removed again)
     // and 9 (opened, written in an older format).
@@ -72,9 +73,13 @@ public:
     // file holds somebody else's line now) and 5 (the lock file cannot be removed); the project
     // then stays open. A lock file that is gone is no obstacle.
     bool closeProject(int& code, QString& message);
-    // Writes the project file (always the newest format). Throws the project serializer's read
-    // error when the file cannot be replaced.
-    void saveProject();
+    // Writes the project file (always the newest format). False, with a message naming the file
+    // and the cause, for a read-only project, a lock that somebody else took over, or a file
+    // that cannot be written or replaced (the serializer's read error and its reason).
+    bool saveProject(QString& message);
+    // The scans of the project file whose headers could not be read at opening, each as
+    // "<relative path>: <reason>"; they stay in the project file but are not shown.
+    QStringList unreadableScans() const;
 
     bool isOpen() const;
     bool isReadOnly() const;
@@ -115,7 +120,8 @@ public:
     // Adds a scan file (absolute, or relative to the project directory) under a folder (empty: the
     // root folder), named after the file. Returns the new identifier; -1 when the file's header
     // cannot be read or no project is open.
-    qint64 addScan(const QString& path, const ProjectItemScanGroupPtr& folder = nullptr);
+    // `reason` (optional) tells why a scan could not be added.
+    qint64 addScan(const QString& path, const ProjectItemScanGroupPtr& folder = nullptr, QString* reason = nullptr);
 
     // Identifiers of the scans whose check box is set, in tree order.
     QList<quint32> enabledScans() const;
@@ -157,7 +163,7 @@ private:
     void clear();
     void installContent(TVXProjectContent& content);
     // Reads a scan file's header and adds its scan list entry; false when it cannot be read.
-    bool attachScan(quint32 scanId, const QString& relativePath);
+    bool attachScan(quint32 scanId, const QString& relativePath, QString& reason);
     void forgetScans(const QList<quint32>& scanIds);
     void announceUnsavedChanges();
 

@@ -45,8 +45,15 @@ ProjectLock::Outcome ProjectLock::acquire(const QString& userName)
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
         return exists() ? Outcome::HeldByOthers : Outcome::NotCreated;
     m_content = "user:" + userName.toUtf8() + '\n';
-    file.write(m_content);
+    const bool written = file.write(m_content) == m_content.size() && file.flush();
     file.close();
+    // A lock without its line would tell others nothing (and look taken over to us): without a
+    // complete line there is no lock, and the project opens read-only.
+    if (!written || file.error() != QFileDevice::NoError) {
+        QFile::remove(m_path);
+        m_content.clear();
+        return Outcome::NotCreated;
+    }
     return Outcome::Created;
 }
 

@@ -20,7 +20,8 @@ public:
     bool exists() const;
 
     // Creates the lock file holding "user:<userName>\n". HeldByOthers when it exists already,
-    // NotCreated when it cannot be made (the project can then only be read).
+    // NotCreated when it cannot be made or its line cannot be written (the project can then only
+    // be read; a half-written lock file is removed again).
     Outcome acquire(const QString& userName);
 
     // The names of the lines that begin with "user:" (in this letter case), in file order, each cut

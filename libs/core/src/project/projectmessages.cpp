@@ -61,4 +61,25 @@ QString ProjectMessages::olderFormat(quint32 formatVersion, quint32 major, quint
                 "project format.\n");
 }
 
+QString ProjectMessages::cause(const QString& reason)
+{
+    return reason.isEmpty() ? QString() : tr("\nCause: %1\n").arg(reason);
+}
+
+QString ProjectMessages::readOnly()
+{
+    return tr("Changes could not be saved, because the project was opened in read-only mode.");
+}
+
+QString ProjectMessages::writeFailure(const QString& projectPath, const QString& reason)
+{
+    return tr("The project file %1 could not be written.\n").arg(projectPath) + cause(reason);
+}
+
+QString ProjectMessages::recovered(const QString& projectPath)
+{
+    return tr("The project file %1 was missing; it was restored from the copy that the last save left behind.\n")
+        .arg(projectPath);
+}
+
 } // namespace TVX::CORE

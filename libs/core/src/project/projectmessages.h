@@ -26,6 +26,14 @@ public:
     static QString lockNotOwned(const QString& lockPath);
     // Code 9.
     static QString olderFormat(quint32 formatVersion, quint32 major, quint32 minor, quint32 patch);
+    // A line with the technical cause, appended after a message; empty for an empty reason.
+    static QString cause(const QString& reason);
+    // Saving a project that was opened read-only.
+    static QString readOnly();
+    // Saving failed; names the file and the cause.
+    static QString writeFailure(const QString& projectPath, const QString& reason);
+    // Opening took the ".tmp" file of an interrupted save.
+    static QString recovered(const QString& projectPath);
 };
 
 } // namespace TVX::CORE

@@ -41,6 +41,23 @@ public:
     const std::vector<std::shared_ptr<ScanViewTextItem>>& textItems() const { return m_textItems; }
     const std::vector<std::shared_ptr<ScanViewMeasurementItem>>& measurementItems() const { return m_measurements; }
 
+    // Calls `visitor` with every item as its own class (const ScanViewEllipse& and so on), kind
+    // by kind in the order of the lists above, each list in its order.
+    template <typename Visitor>
+    void forEachItem(Visitor&& visitor) const
+    {
+        for (const auto& item : m_ellipses)
+            visitor(*item);
+        for (const auto& item : m_polygons)
+            visitor(*item);
+        for (const auto& item : m_rectangles)
+            visitor(*item);
+        for (const auto& item : m_textItems)
+            visitor(*item);
+        for (const auto& item : m_measurements)
+            visitor(*item);
+    }
+
     // Adding appends to the kind's list and emits ItemAdded; removing emits ItemRemoved first and
     // returns false when the item is not in the list.
     void addItem(const std::shared_ptr<ScanViewEllipse>& item);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "scene/matrix3d.h"
 #include "scene/vector3d.h"
 
 #include <array>
@@ -8,8 +9,8 @@ namespace TVX::CORE {
 
 // Where a scan's station stands in the project frame: p_project = rotation · p_scan + translation.
 struct ScanPose {
-    std::array<double, 9> rotation{1, 0, 0, 0, 1, 0, 0, 0, 1}; // row-major 3 × 3
-    Vector3d translation;                                       // the station, metres
+    Matrix3d rotation;
+    Vector3d translation; // the station, metres
 };
 
 // The pose of a scan information's sixteen transformation numbers, read row by row: the rotation

@@ -1,0 +1,70 @@
+# Checks that includes run one way through the layers of libs/core/src, bottom to top:
+#   scene; fileio and annotations; project; the widget folders planarview, glviews, mainwindow.
+# A folder includes only its own headers and those of lower layers (the widget folders may include
+# each other); tools/ stays below the widgets; the layers below the widgets include no header of
+# Qt's widget, OpenGL or network modules.
+#   cmake -DROOT=<source tree> -DQT_INCLUDE_DIR=<Qt's include folder> -P TvxCheckLayering.cmake
+cmake_minimum_required(VERSION 3.25)
+if(NOT ROOT)
+    message(FATAL_ERROR "ROOT is not set")
+endif()
+
+set(level_scene 0)
+set(level_fileio 1)
+set(level_annotations 1)
+set(level_project 2)
+set(level_planarview 3)
+set(level_glviews 3)
+set(level_mainwindow 3)
+set(widget_level 3)
+
+set(widget_headers)
+if(QT_INCLUDE_DIR)
+    foreach(module QtWidgets QtOpenGL QtOpenGLWidgets QtNetwork)
+        file(GLOB names RELATIVE ${QT_INCLUDE_DIR}/${module} ${QT_INCLUDE_DIR}/${module}/Q*)
+        list(APPEND widget_headers ${names})
+    endforeach()
+    list(APPEND widget_headers GL/gl.h GL/glu.h GL/glew.h FTGL/ftgl.h)
+endif()
+
+set(violations)
+file(GLOB_RECURSE sources RELATIVE ${ROOT} ${ROOT}/libs/core/src/*.h ${ROOT}/libs/core/src/*.cpp
+     ${ROOT}/tools/*.h ${ROOT}/tools/*.cpp)
+foreach(source IN LISTS sources)
+    if(source MATCHES "^libs/core/src/([a-z0-9]+)/")
+        set(folder ${CMAKE_MATCH_1})
+        set(own_level ${level_${folder}})
+        if(own_level STREQUAL "")
+            list(APPEND violations "${source}: folder ${folder} has no layer")
+            continue()
+        endif()
+    else()
+        set(folder tools)
+        set(own_level 2.5) # the command line sits on the data layers, below the widgets
+    endif()
+    file(STRINGS ${ROOT}/${source} includes REGEX "^[ \t]*#[ \t]*include[ \t]*[\"<]")
+    foreach(line IN LISTS includes)
+        string(REGEX MATCH "[\"<]([^\">]+)[\">]" _ "${line}")
+        set(header ${CMAKE_MATCH_1})
+        set(target "")
+        if(header MATCHES "^([a-z0-9]+)/")
+            set(target ${CMAKE_MATCH_1})
+        endif()
+        if(DEFINED level_${target})
+            set(target_level ${level_${target}})
+            if(NOT target STREQUAL folder AND NOT target_level LESS own_level
+               AND NOT (own_level EQUAL widget_level AND target_level EQUAL widget_level))
+                list(APPEND violations "${source}: ${folder} (layer ${own_level}) includes ${header} (layer ${target_level})")
+            endif()
+        elseif(own_level LESS widget_level AND header IN_LIST widget_headers)
+            list(APPEND violations "${source}: ${folder} is below the widgets but includes <${header}>")
+        endif()
+    endforeach()
+endforeach()
+
+if(violations)
+    list(JOIN violations "\n  " text)
+    message(FATAL_ERROR "includes against the layering:\n  ${text}")
+endif()
+list(LENGTH sources count)
+message(STATUS "layering holds in ${count} files")
