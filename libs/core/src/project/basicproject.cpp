@@ -50,6 +50,8 @@ bool sampleOfTile(const TVXFileTile& tile, quint32 column, quint32 row, CellSamp
     sample.distance = tile.distances[at];
     sample.valid = sample.distance != 0.0;
     sample.hasColour = tile.colourOrGrey(at, sample.red, sample.green, sample.blue);
+    sample.hasIntensity = at < tile.intensities.size();
+    sample.intensity = sample.hasIntensity ? tile.intensities[at] : 0;
     return true;
 }
 

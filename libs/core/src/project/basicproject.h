@@ -29,6 +29,8 @@ struct CellSample {
     quint8 red{0};
     quint8 green{0};
     quint8 blue{0};
+    bool hasIntensity{false}; // the reflectance that the scanner measured
+    quint8 intensity{0};
 };
 
 // The open project: its directory with lock file and project file, its item tree and its scans.

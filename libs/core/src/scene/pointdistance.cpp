@@ -1,0 +1,22 @@
+#include "scene/pointdistance.h"
+
+#include <cmath>
+
+namespace TVX::CORE {
+
+PointDistance pointDistance(const Vector3d& first, const ScanPose& firstPose, const Vector3d& second,
+                            const ScanPose& secondPose)
+{
+    const Vector3d mean = (firstPose.translation + secondPose.translation) * 0.5;
+    const Vector3d a = firstPose.rotation * first + (firstPose.translation - mean);
+    const Vector3d b = secondPose.rotation * second + (secondPose.translation - mean);
+    PointDistance result;
+    result.dx = std::abs(a.x - b.x);
+    result.dy = std::abs(a.y - b.y);
+    result.dz = std::abs(a.z - b.z);
+    result.distance3D = std::sqrt(result.dx * result.dx + result.dy * result.dy + result.dz * result.dz);
+    result.distanceXY = std::hypot(result.dx, result.dy);
+    return result;
+}
+
+} // namespace TVX::CORE
