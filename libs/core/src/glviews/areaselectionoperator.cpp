@@ -1,0 +1,8 @@
+#include "glviews/areaselectionoperator.h"
+
+namespace TVX::CORE {
+
+AreaSelectionOperator::AreaSelectionOperator() = default;
+AreaSelectionOperator::~AreaSelectionOperator() = default;
+
+} // namespace TVX::CORE

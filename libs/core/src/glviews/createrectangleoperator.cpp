@@ -1,0 +1,8 @@
+#include "glviews/createrectangleoperator.h"
+
+namespace TVX::CORE {
+
+CreateRectangleOperator::CreateRectangleOperator() = default;
+CreateRectangleOperator::~CreateRectangleOperator() = default;
+
+} // namespace TVX::CORE

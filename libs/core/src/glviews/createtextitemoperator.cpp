@@ -1,0 +1,8 @@
+#include "glviews/createtextitemoperator.h"
+
+namespace TVX::CORE {
+
+CreateTextItemOperator::CreateTextItemOperator() = default;
+CreateTextItemOperator::~CreateTextItemOperator() = default;
+
+} // namespace TVX::CORE

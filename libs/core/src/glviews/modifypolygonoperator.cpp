@@ -1,0 +1,8 @@
+#include "glviews/modifypolygonoperator.h"
+
+namespace TVX::CORE {
+
+ModifyPolygonOperator::ModifyPolygonOperator() = default;
+ModifyPolygonOperator::~ModifyPolygonOperator() = default;
+
+} // namespace TVX::CORE

@@ -1,0 +1,8 @@
+#include "glviews/objectselectionoperator.h"
+
+namespace TVX::CORE {
+
+ObjectSelectionOperator::ObjectSelectionOperator() = default;
+ObjectSelectionOperator::~ObjectSelectionOperator() = default;
+
+} // namespace TVX::CORE

@@ -1,0 +1,8 @@
+#include "glviews/zoominoperator.h"
+
+namespace TVX::CORE {
+
+ZoomInOperator::ZoomInOperator() = default;
+ZoomInOperator::~ZoomInOperator() = default;
+
+} // namespace TVX::CORE

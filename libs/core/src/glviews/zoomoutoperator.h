@@ -1,0 +1,15 @@
+#pragma once
+
+#include "glviews/scanviewoperator.h"
+
+namespace TVX::CORE {
+
+// Zooms the active spherical view out by one step per left click.
+class ZoomOutOperator : public ScanViewOperator
+{
+public:
+    ZoomOutOperator();
+    ~ZoomOutOperator() override;
+};
+
+} // namespace TVX::CORE

@@ -1,0 +1,456 @@
+#include "testregistry.h"
+
+#include "glviews/areaselectionoperator.h"
+#include "glviews/cameramoveoperator.h"
+#include "glviews/createellipseoperator.h"
+#include "glviews/createmeasurmenttemoperator.h"
+#include "glviews/createpolygonoperator.h"
+#include "glviews/createrectangleoperator.h"
+#include "glviews/createtextitemoperator.h"
+#include "glviews/modifyellipseoperator.h"
+#include "glviews/modifymeasurementtemoperator.h"
+#include "glviews/modifypolygonoperator.h"
+#include "glviews/modifyregtangleoperator.h"
+#include "glviews/modifytextitemoperator.h"
+#include "glviews/objectselectionoperator.h"
+#include "glviews/scanpointselectionoperator.h"
+#include "glviews/scanviewevent.h"
+#include "glviews/scanviewoperatormanager.h"
+#include "glviews/sphericalviewcontrol.h"
+#include "glviews/zoominoperator.h"
+#include "glviews/zoomoutoperator.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QTest>
+#include <QWheelEvent>
+#include <QWidget>
+
+#include <functional>
+#include <set>
+
+namespace TVX::CORE {
+
+char* toString(const ScanViewEvent& e)
+{
+    return QTest::toString(QStringLiteral("{kind %1, code %2, x %3, y %4, modifiers 0x%5}")
+                               .arg(e.kind)
+                               .arg(e.code)
+                               .arg(e.x)
+                               .arg(e.y)
+                               .arg(e.modifiers, 0, 16));
+}
+
+} // namespace TVX::CORE
+
+using namespace TVX::CORE;
+
+namespace {
+
+ScanViewEvent button(quint32 code, qint32 x = 0, qint32 y = 0)
+{
+    return ScanViewEvent::mouse(ScanViewEvent::MouseButton, code, x, y);
+}
+
+ScanViewEvent move(qint32 x, qint32 y)
+{
+    return ScanViewEvent::mouse(ScanViewEvent::MouseMove, 0, x, y);
+}
+
+// Writes each call into a log shared by all operators of a test, as "name.operation".
+class RecordingOperator : public ScanViewOperator
+{
+public:
+    RecordingOperator(const QString& name, QStringList& log, bool consumes = false)
+        : m_name(name), m_log(log), m_consumes(consumes)
+    {
+    }
+
+    void deactivate() override { note("deactivate"); }
+    void cancel() override { note("cancel"); }
+    void reset() override { note("reset"); }
+    bool mousePress(const ScanViewEvent&) override { return note("mousePress"); }
+    bool mouseRelease(const ScanViewEvent&) override { return note("mouseRelease"); }
+    bool mouseDoubleClick(const ScanViewEvent&) override { return note("mouseDoubleClick"); }
+    bool mouseMove(const ScanViewEvent&) override { return note("mouseMove"); }
+    bool wheel(const ScanViewEvent&) override { return note("wheel"); }
+    bool keyPress(const ScanViewEvent&) override { return note("keyPress"); }
+    bool keyRelease(const ScanViewEvent&) override { return note("keyRelease"); }
+
+private:
+    bool note(const char* operation)
+    {
+        m_log << m_name + QLatin1Char('.') + QLatin1String(operation);
+        return m_consumes;
+    }
+
+    QString m_name;
+    QStringList& m_log;
+    bool m_consumes;
+};
+
+// Mode 5 lists a then b; mode 7 lists c.
+struct RecordingFixture {
+    explicit RecordingFixture(bool aConsumes = false, bool bConsumes = false)
+    {
+        manager.setOperators(5, {std::make_shared<RecordingOperator>("a", log, aConsumes),
+                                 std::make_shared<RecordingOperator>("b", log, bConsumes)});
+        manager.setOperators(7, {std::make_shared<RecordingOperator>("c", log)});
+    }
+
+    QStringList log;
+    ScanViewOperatorManager manager;
+};
+
+class FakeSphericalView : public SphericalViewControl
+{
+public:
+    void rotate(double dx, double dy, double dz) override
+    {
+        // + 0.0 turns -0 into 0 for the log.
+        calls << QStringLiteral("rotate(%1,%2,%3)").arg(dx + 0.0).arg(dy + 0.0).arg(dz + 0.0);
+    }
+    void zoomIn() override { calls << QStringLiteral("zoomIn"); }
+    void zoomOut() override { calls << QStringLiteral("zoomOut"); }
+    void update() override { calls << QStringLiteral("update"); }
+
+    QStringList calls;
+};
+
+struct KeyRow {
+    int qtKey;
+    quint32 code;
+};
+
+struct ConversionRow {
+    std::function<ScanViewEvent()> convert;
+    ScanViewEvent expected;
+};
+
+struct ModeRow {
+    std::function<void(ScanViewOperatorManager&)> steps;
+    QStringList log;
+    quint32 mode;
+};
+
+struct DispatchRow {
+    bool aConsumes;
+    bool bConsumes;
+    quint32 mode;
+    ScanViewEvent event;
+    QStringList log;
+    bool consumed;
+};
+
+template <class T>
+bool is(const ScanViewOperator* op)
+{
+    return dynamic_cast<const T*>(op) != nullptr;
+}
+
+struct TableRow {
+    quint32 mode;
+    std::function<bool(const ScanViewOperator*)> isOwnOperator;
+    bool lensEnabled;
+};
+
+struct CameraRow {
+    quint32 viewType;
+    std::vector<ScanViewEvent> events;
+    QList<bool> consumed;
+    QStringList calls;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(KeyRow)
+Q_DECLARE_METATYPE(ConversionRow)
+Q_DECLARE_METATYPE(ModeRow)
+Q_DECLARE_METATYPE(DispatchRow)
+Q_DECLARE_METATYPE(TableRow)
+Q_DECLARE_METATYPE(CameraRow)
+
+class ScanViewOperatorManagerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keyCodes_data()
+    {
+        QTest::addColumn<KeyRow>("row");
+        QTest::newRow("digit 0") << KeyRow{Qt::Key_0, 1};
+        QTest::newRow("digit 9") << KeyRow{Qt::Key_9, 10};
+        QTest::newRow("A") << KeyRow{Qt::Key_A, 11};
+        QTest::newRow("M, the 13th letter: 10 + 13") << KeyRow{Qt::Key_M, 23};
+        QTest::newRow("Z") << KeyRow{Qt::Key_Z, 36};
+        QTest::newRow("space") << KeyRow{Qt::Key_Space, 37};
+        QTest::newRow("Escape") << KeyRow{Qt::Key_Escape, 38};
+        QTest::newRow("F1") << KeyRow{Qt::Key_F1, 39};
+        QTest::newRow("F12") << KeyRow{Qt::Key_F12, 50};
+        QTest::newRow("F13 is past the table") << KeyRow{Qt::Key_F13, 0};
+        QTest::newRow("Shift") << KeyRow{Qt::Key_Shift, 0x10000000};
+        QTest::newRow("Alt") << KeyRow{Qt::Key_Alt, 0x10000002};
+        QTest::newRow("Meta") << KeyRow{Qt::Key_Meta, 0x10000003};
+        QTest::newRow("AltGr, as Meta") << KeyRow{Qt::Key_AltGr, 0x10000003};
+        QTest::newRow("Delete") << KeyRow{Qt::Key_Delete, 0x10000100};
+        QTest::newRow("Control, left out on purpose") << KeyRow{Qt::Key_Control, 0};
+        QTest::newRow("Return") << KeyRow{Qt::Key_Return, 0};
+        QTest::newRow("Backspace") << KeyRow{Qt::Key_Backspace, 0};
+        QTest::newRow("slash, between digits and letters") << KeyRow{Qt::Key_Slash, 0};
+        QTest::newRow("at sign, just before A") << KeyRow{Qt::Key_At, 0};
+    }
+
+    void keyCodes()
+    {
+        QFETCH(KeyRow, row);
+        QCOMPARE(scanViewKeyCode(row.qtKey), row.code);
+    }
+
+    void recordsOfQtEvents_data()
+    {
+        QTest::addColumn<ConversionRow>("row");
+        const auto mouse = [](QEvent::Type type, Qt::MouseButton button, QPointF position) {
+            return [=] {
+                return scanViewEvent(QMouseEvent(type, position, position, button, button, Qt::NoModifier));
+            };
+        };
+        const auto wheel = [](QPoint angleDelta) {
+            return [=] {
+                return scanViewEvent(QWheelEvent(QPointF(5, 5), QPointF(5, 5), QPoint(), angleDelta, Qt::NoButton,
+                                                 Qt::NoModifier, Qt::NoScrollPhase, false));
+            };
+        };
+        const auto key = [](QEvent::Type type, int qtKey, Qt::KeyboardModifiers modifiers) {
+            return [=] { return scanViewEvent(QKeyEvent(type, qtKey, modifiers)); };
+        };
+        using E = ScanViewEvent;
+        QTest::newRow("left press") << ConversionRow{mouse(QEvent::MouseButtonPress, Qt::LeftButton, {12, 34}),
+                                                     E::mouse(E::MouseButton, 1, 12, 34)};
+        QTest::newRow("middle press, position rounded")
+            << ConversionRow{mouse(QEvent::MouseButtonPress, Qt::MiddleButton, {2.6, 3.4}),
+                             E::mouse(E::MouseButton, 3, 3, 3)};
+        QTest::newRow("right release") << ConversionRow{mouse(QEvent::MouseButtonRelease, Qt::RightButton, {1, 2}),
+                                                        E::mouse(E::MouseButton, 6, 1, 2)};
+        QTest::newRow("left double click carries the press code")
+            << ConversionRow{mouse(QEvent::MouseButtonDblClick, Qt::LeftButton, {7, 8}),
+                             E::mouse(E::MouseDoubleClick, 1, 7, 8)};
+        QTest::newRow("back button press") << ConversionRow{mouse(QEvent::MouseButtonPress, Qt::BackButton, {1, 1}),
+                                                            E::mouse(E::MouseButton, 0, 1, 1)};
+        QTest::newRow("move") << ConversionRow{mouse(QEvent::MouseMove, Qt::NoButton, {-3, 40}),
+                                               E::mouse(E::MouseMove, 0, -3, 40)};
+        QTest::newRow("wheel towards the user") << ConversionRow{wheel({0, -120}), E::wheel(-120)};
+        QTest::newRow("horizontal wheel") << ConversionRow{wheel({240, 0}), E::wheel(240)};
+        QTest::newRow("A with Control held")
+            << ConversionRow{key(QEvent::KeyPress, Qt::Key_A, Qt::ControlModifier), E::key(E::KeyPress, 11, true)};
+        // A modifier key's own event comes with the state before it; Qt reports the state after it.
+        QTest::newRow("Control itself is no known key, but is held")
+            << ConversionRow{key(QEvent::KeyPress, Qt::Key_Control, Qt::NoModifier), E::key(E::KeyPress, 0, true)};
+        QTest::newRow("Shift release, nothing held any more")
+            << ConversionRow{key(QEvent::KeyRelease, Qt::Key_Shift, Qt::ShiftModifier),
+                             E::key(E::KeyRelease, 0x10000000, false)};
+        QTest::newRow("keypad 5 holds no modifier")
+            << ConversionRow{key(QEvent::KeyPress, Qt::Key_5, Qt::KeypadModifier), E::key(E::KeyPress, 6, false)};
+    }
+
+    void recordsOfQtEvents()
+    {
+        QFETCH(ConversionRow, row);
+        const ScanViewEvent event = row.convert();
+        QCOMPARE(event, row.expected);
+    }
+
+    void modeChanges_data()
+    {
+        QTest::addColumn<ModeRow>("row");
+        using M = ScanViewOperatorManager;
+        QTest::newRow("leaving a mode: cancel, then deactivate, in list order")
+            << ModeRow{[](M& m) { m.setMode(5); m.setMode(7); },
+                       {"a.cancel", "a.deactivate", "b.cancel", "b.deactivate"}, 7};
+        QTest::newRow("setting the current mode again keeps the gesture")
+            << ModeRow{[](M& m) {
+                           m.setMode(5);
+                           m.dispatch(button(1));
+                           m.setMode(5);
+                           m.dispatch(move(3, 4));
+                       },
+                       {"a.mousePress", "b.mousePress", "a.mouseMove", "b.mouseMove"}, 5};
+        QTest::newRow("the new mode's operators are not told")
+            << ModeRow{[](M& m) { m.setMode(7); m.setMode(5); }, {"c.cancel", "c.deactivate"}, 5};
+        QTest::newRow("leaving a mode without a list") << ModeRow{[](M& m) { m.setMode(9); m.setMode(7); }, {}, 7};
+        QTest::newRow("a view closes: cancel, then reset, on the current mode's operators")
+            << ModeRow{[](M& m) { m.setMode(5); m.resetActiveOperator(); },
+                       {"a.cancel", "a.reset", "b.cancel", "b.reset"}, 5};
+        QTest::newRow("a view closes in a mode without a list")
+            << ModeRow{[](M& m) { m.resetActiveOperator(); }, {}, 0};
+    }
+
+    void modeChanges()
+    {
+        QFETCH(ModeRow, row);
+        RecordingFixture f;
+        QCOMPARE(f.manager.currentMode(), 0u);
+        row.steps(f.manager);
+        QCOMPARE(f.log, row.log);
+        QCOMPARE(f.manager.currentMode(), row.mode);
+    }
+
+    void dispatch_data()
+    {
+        QTest::addColumn<DispatchRow>("row");
+        using E = ScanViewEvent;
+        QTest::newRow("the first consumer wins") << DispatchRow{true, true, 5, button(1), {"a.mousePress"}, true};
+        QTest::newRow("the second consumes")
+            << DispatchRow{false, true, 5, button(1), {"a.mousePress", "b.mousePress"}, true};
+        QTest::newRow("nobody consumes")
+            << DispatchRow{false, false, 5, button(1), {"a.mousePress", "b.mousePress"}, false};
+        QTest::newRow("a mode without a list") << DispatchRow{true, true, 9, button(1), {}, false};
+        QTest::newRow("move") << DispatchRow{true, false, 5, move(1, 1), {"a.mouseMove"}, true};
+        QTest::newRow("middle release") << DispatchRow{true, false, 5, button(4), {"a.mouseRelease"}, true};
+        QTest::newRow("right press") << DispatchRow{true, false, 5, button(5), {"a.mousePress"}, true};
+        QTest::newRow("other button") << DispatchRow{true, false, 5, button(0), {"a.mouseRelease"}, true};
+        QTest::newRow("double click")
+            << DispatchRow{true, false, 5, E::mouse(E::MouseDoubleClick, 1, 0, 0), {"a.mouseDoubleClick"}, true};
+        QTest::newRow("wheel") << DispatchRow{true, false, 5, E::wheel(-120), {"a.wheel"}, true};
+        QTest::newRow("key press") << DispatchRow{true, false, 5, E::key(E::KeyPress, 38, false), {"a.keyPress"}, true};
+        QTest::newRow("key release")
+            << DispatchRow{true, false, 5, E::key(E::KeyRelease, 38, true), {"a.keyRelease"}, true};
+        QTest::newRow("unknown kind") << DispatchRow{true, true, 5, E::mouse(64, 1, 0, 0), {}, false};
+    }
+
+    void dispatch()
+    {
+        QFETCH(DispatchRow, row);
+        RecordingFixture f(row.aConsumes, row.bConsumes);
+        f.manager.setMode(row.mode);
+        QCOMPARE(f.manager.dispatch(row.event), row.consumed);
+        QCOMPARE(f.log, row.log);
+    }
+
+    void defaultTable_data()
+    {
+        QTest::addColumn<TableRow>("row");
+        QTest::newRow("1") << TableRow{1, is<ScanPointSelectionOperator>, true};
+        QTest::newRow("3") << TableRow{3, is<AreaSelectionOperator>, false};
+        QTest::newRow("16") << TableRow{16, is<ZoomInOperator>, false};
+        QTest::newRow("17") << TableRow{17, is<ZoomOutOperator>, false};
+        QTest::newRow("32") << TableRow{32, is<CreatePolygonOperator>, true};
+        QTest::newRow("33") << TableRow{33, is<ModifyPolygonOperator>, true};
+        QTest::newRow("34") << TableRow{34, is<CreateEllipseOperator>, true};
+        QTest::newRow("35") << TableRow{35, is<ModifyEllipseOperator>, true};
+        QTest::newRow("36") << TableRow{36, is<CreateRectangleOperator>, true};
+        QTest::newRow("37") << TableRow{37, is<ModifyRegtangleOperator>, true};
+        QTest::newRow("38") << TableRow{38, is<CreateMeasurmenttemOperator>, true};
+        QTest::newRow("39") << TableRow{39, is<ModifyMeasurementtemOperator>, true};
+        QTest::newRow("40") << TableRow{40, is<CreateTextItemOperator>, true};
+        QTest::newRow("41") << TableRow{41, is<ModifyTextItemOperator>, true};
+        QTest::newRow("4101") << TableRow{4101, is<ScanPointSelectionOperator>, true};
+        QTest::newRow("4102") << TableRow{4102, is<ObjectSelectionOperator>, false};
+    }
+
+    void defaultTable()
+    {
+        QFETCH(TableRow, row);
+        const auto manager = ScanViewOperatorManager::createDefault();
+        const auto list = manager->operators(row.mode);
+        QCOMPARE(list.size(), std::size_t(2));
+        QVERIFY(row.isOwnOperator(list[0].get()));
+        QCOMPARE(is<LensEnabledOperator>(list[0].get()), row.lensEnabled);
+        QVERIFY(is<CameraMoveOperator>(list[1].get()));
+        QCOMPARE(manager->operatorFor(row.mode), list[0]);
+    }
+
+    void defaultTableSharesItsOperators()
+    {
+        const auto manager = ScanViewOperatorManager::createDefault();
+        QCOMPARE(manager->currentMode(), 0u);
+        const quint32 modes[] = {1, 3, 16, 17, 32, 33, 34, 35, 36, 37, 38, 39, 40, 41, 4101, 4102};
+        const auto camera = manager->operators(1).at(1);
+        std::set<const ScanViewOperator*> operators;
+        for (const quint32 mode : modes) {
+            const auto list = manager->operators(mode);
+            QCOMPARE(list.at(1), camera);
+            operators.insert(list.at(0).get());
+            operators.insert(list.at(1).get());
+        }
+        // One object per class: the sixteen classes of the table, scan point selection shared by 1 and 4101.
+        QCOMPARE(operators.size(), std::size_t(16));
+        QCOMPARE(manager->operatorFor(1), manager->operatorFor(4101));
+        for (const quint32 untabled : {0u, 2u, 42u, 4100u})
+            QVERIFY(manager->operators(untabled).empty());
+    }
+
+    void cameraMove_data()
+    {
+        QTest::addColumn<CameraRow>("row");
+        using E = ScanViewEvent;
+        const quint32 none = 0, planar = 1, spherical = 2, cloud = 3;
+        QTest::newRow("left press, spherical view") << CameraRow{spherical, {button(1)}, {true}, {}};
+        QTest::newRow("left press, planar view") << CameraRow{planar, {button(1)}, {true}, {}};
+        QTest::newRow("left press, no view") << CameraRow{none, {button(1)}, {true}, {}};
+        QTest::newRow("left drag does not turn")
+            << CameraRow{spherical, {button(1, 10, 10), move(20, 30), button(2, 20, 30)}, {true, false, true}, {}};
+        QTest::newRow("left release, point cloud view") << CameraRow{cloud, {button(1), button(2)}, {true, true}, {}};
+        // (10,10) -> (14,18): d = (4, 8) gives (-0.25·8, 0, -0.25·4); then (14,18) -> (10,14): d = (-4, -4).
+        QTest::newRow("middle drag turns the spherical view")
+            << CameraRow{spherical,
+                         {button(3, 10, 10), move(14, 18), move(10, 14), button(4, 10, 14)},
+                         {false, true, true, false},
+                         {"rotate(-2,0,-1)", "rotate(1,0,1)"}};
+        QTest::newRow("middle drag over a planar view")
+            << CameraRow{planar, {button(3), move(8, 8), button(4, 8, 8)}, {false, false, false}, {}};
+        QTest::newRow("middle drag over a point cloud view")
+            << CameraRow{cloud, {button(3), move(8, 8), button(4, 8, 8)}, {false, false, false}, {}};
+        QTest::newRow("no turn after the middle release")
+            << CameraRow{spherical, {button(3), button(4), move(8, 8)}, {false, false, false}, {}};
+        QTest::newRow("right drag is never consumed")
+            << CameraRow{spherical, {button(5), move(8, 8), button(6, 8, 8)}, {false, false, false}, {}};
+        QTest::newRow("wheel 120 zooms in") << CameraRow{spherical, {E::wheel(120)}, {true}, {"zoomIn"}};
+        QTest::newRow("wheel 1200: the same single step") << CameraRow{spherical, {E::wheel(1200)}, {true}, {"zoomIn"}};
+        QTest::newRow("wheel -120 zooms out") << CameraRow{spherical, {E::wheel(-120)}, {true}, {"zoomOut"}};
+        QTest::newRow("wheel 0") << CameraRow{spherical, {E::wheel(0)}, {false}, {}};
+        QTest::newRow("wheel over a planar view") << CameraRow{planar, {E::wheel(120)}, {false}, {}};
+        QTest::newRow("wheel, no view") << CameraRow{none, {E::wheel(-120)}, {false}, {}};
+        QTest::newRow("double click and keys are left alone")
+            << CameraRow{spherical,
+                         {E::mouse(E::MouseDoubleClick, 1, 0, 0), E::key(E::KeyPress, 0x10000000, true)},
+                         {false, false},
+                         {}};
+    }
+
+    void cameraMove()
+    {
+        QFETCH(CameraRow, row);
+        QWidget subWindow;
+        FakeSphericalView view;
+        const auto camera = std::make_shared<CameraMoveOperator>();
+        ScanViewOperatorManager manager;
+        manager.setOperators(1, {camera});
+        manager.setActiveViewProvider([&] {
+            ActiveView active;
+            if (row.viewType != ActiveView::None) {
+                active.subWindow = &subWindow;
+                active.scanId = 7;
+                active.type = row.viewType;
+                active.spherical = row.viewType == ActiveView::Spherical ? &view : nullptr;
+            }
+            return active;
+        });
+        manager.setMode(1);
+        QList<bool> consumed;
+        for (const ScanViewEvent& event : row.events)
+            consumed << manager.dispatch(event);
+        QCOMPARE(consumed, row.consumed);
+        QCOMPARE(view.calls, row.calls);
+
+        // Every press records the gesture's view; only a spherical sub window is kept.
+        if (row.events.front().isPress()) {
+            QCOMPARE(camera->gestureViewType(), row.viewType);
+            QCOMPARE(camera->gestureScanId(), row.viewType == ActiveView::None ? 0u : 7u);
+            QCOMPARE(camera->gestureSubWindow(), row.viewType == ActiveView::Spherical ? &subWindow : nullptr);
+        }
+    }
+};
+
+TVX_TEST(ScanViewOperatorManagerTest)
+
+#include "scanviewoperatormanagertest.moc"
