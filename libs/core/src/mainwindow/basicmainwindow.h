@@ -1,0 +1,125 @@
+#pragma once
+
+#include "mainwindow/cursorid.h"
+#include "mainwindow/mdisubwindow.h"
+
+#include <QMainWindow>
+#include <QModelIndexList>
+
+#include <memory>
+
+class QMdiArea;
+
+namespace TVX::CORE {
+
+class FileTreeView;
+class LogTableModel;
+class PointInfoTableViewWidget;
+class UserDialogs;
+
+// The frame of the viewer: the multiple-document area with one sub window per open scan view,
+// the docks "Project", "Lens", "Point Information" and "Report", five toolbars, the menus and the
+// status bar. It owns the actions, switches the interaction mode of all views, opens projects and
+// views, asks before discarding changes, keeps the recent projects and shows distance
+// information. The work itself lives in the project, the views and the models it wires up.
+class BasicMainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit BasicMainWindow(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
+    ~BasicMainWindow() override;
+
+    // Every question and message box goes through this object; tests install their own.
+    void setUserDialogs(std::unique_ptr<UserDialogs> dialogs);
+    UserDialogs& userDialogs() const;
+
+    QMdiArea* mdiArea() const;
+    FileTreeView* projectTreeView() const;
+    PointInfoTableViewWidget* pointInfoWidget() const;
+    LogTableModel* logModel() const;
+    // The sub window under the mouse, as the sub windows report it; null when none.
+    MdiSubWindow* subWindowUnderMouse() const;
+
+    // Appends an entry to the report log (types of LogTableModel).
+    void log(int type, const QString& message);
+
+Q_SIGNALS:
+    void interactionModeChanged();
+    void graphicsViewModeChanged(int mode, int subMode);
+    void cursorContextChanged(TVX::CORE::CursorId cursor);
+
+public Q_SLOTS:
+    void handle_message(const QString& message);
+    virtual bool openProject(QString fileName);
+    virtual bool openProject();
+    virtual bool saveProject();
+    void openRecentProjectFile(int id);
+    virtual bool resetApplication();
+    virtual void loadAnnotationsForPlanarView(quint32 scanId);
+    virtual bool saveAnnotationsForAllOpenPlanarViews();
+    virtual void resetToPickMode();
+    virtual void disableInteractiveLensMode();
+    virtual void clear_picked_point_items();
+    virtual void projectTreeScanCheckBoxChanged();
+    void openViewWithPreferredStyle(quint32 scanId);
+    virtual void openPlanarView(quint32 scanId);
+    void closePlanarView(quint32 scanId);
+    virtual void openSphericalView(quint32 scanId);
+    void closeSphericalView(quint32 scanId);
+    virtual void openPointcloudView(quint32 scanId);
+    void closePointcloudView(quint32 scanId);
+    void closeAllViewsOfAScan(quint32 scanId);
+    void closeAllViewsOfAllOtherScans(quint32 scanId);
+    void initPickCoordinateMode();
+    void initEditElementMode();
+    void initZoomInMode();
+    void initZoomOutMode();
+    void initDrawPolygonMode();
+    void initDrawRectangleMode();
+    void initDrawEllipseMode();
+    void initDrawTextMode();
+    void initPlaceDimensioningMode(int type);
+    void showCompleteDimensioningInfo();
+    void zoomAll();
+    void setProjectIsModified();
+    void scanWasModified(quint32 scanId);
+    void removeLastPointFromList(quint32 scanId, qint32 column, qint32 row);
+    virtual void mdiWindowAboutToClosed(quint32 scanId, TVX::CORE::MdiSubWindow::MdiSubWindowType kind);
+    void showColumnAndRowInStatusLine(QPoint position);
+    void clearPickedPointsFromView();
+    virtual void deleteItemsFromProjectTree(QModelIndexList& indexes);
+    void lensModeEnabled(bool enabled);
+    void updateLens(quint32 scanId, qint32 column, qint32 row);
+    virtual void pointSelectionInPlanarView(quint32 scanId, qint32 column, qint32 row);
+    // Offers a file dialog for scan files and adds them under the folder at `folder`.
+    void addScansToProject(const QModelIndex& folder);
+
+protected:
+    // Ask before discarding changes: true when the caller may go on.
+    bool askToKeepChanges();
+    // Shows the project in the title, "Tarvenix Viewer: " and its path; empty without project.
+    virtual void updateWindowTitle(const QString& projectPath);
+    // A warning box that also goes into the report log.
+    void warn(const QString& title, const QString& text);
+
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+
+private:
+    void createCentralAreaAndDocks();
+    void createActions();
+    void createToolBars();
+    void createMenus();
+    void createConnections();
+    void rebuildRecentMenu();
+    bool openProjectFile(const QString& fileName);
+    void setMode(quint32 operatorId, int mode, int subMode);
+    void forwardKey(QKeyEvent* event, bool press);
+    void closeViews(quint32 scanId, bool ofThisScan);
+
+    struct Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace TVX::CORE

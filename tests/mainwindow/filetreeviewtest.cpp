@@ -1,0 +1,379 @@
+#include "testregistry.h"
+
+#include "mainwindow/filetreeview.h"
+#include "project/filetreemodel.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+#include <map>
+
+using namespace TVX::CORE;
+
+namespace {
+
+// scans( A( a1#10 ) B( b1#11 ) s#12 t#13 )
+ProjectItemScanGroupPtr sampleHolder()
+{
+    const auto holder = ProjectItemScanGroup::create(QString());
+    const auto root = ProjectItemScanGroup::create(QStringLiteral("scans"));
+    holder->appendFolder(root);
+    const auto a = ProjectItemScanGroup::create(QStringLiteral("A"));
+    const auto b = ProjectItemScanGroup::create(QStringLiteral("B"));
+    root->appendFolder(a);
+    root->appendFolder(b);
+    a->appendScan(ProjectItemScan::create(QStringLiteral("a1"), 10));
+    b->appendScan(ProjectItemScan::create(QStringLiteral("b1"), 11));
+    root->appendScan(ProjectItemScan::create(QStringLiteral("s"), 12));
+    root->appendScan(ProjectItemScan::create(QStringLiteral("t"), 13));
+    return holder;
+}
+
+struct Fixture {
+    FileTreeModel model;
+    FileTreeView view;
+    QStringList questions;
+    bool answer = true;
+
+    explicit Fixture(bool editable = true)
+    {
+        model.setRootHolder(sampleHolder());
+        view.setModel(&model);
+        view.setEditable(editable);
+        view.setConfirmer([this](const QString& question) {
+            questions << question;
+            return answer;
+        });
+        view.resize(480, 320);
+        view.show();
+        view.expandAll();
+    }
+
+    // An index by its path of names, e.g. "scans/A/a1".
+    QModelIndex at(const QString& path) const
+    {
+        QModelIndex index;
+        for (const QString& name : path.split(QLatin1Char('/'))) {
+            const QModelIndexList found = model.match(model.index(0, 0, index), Qt::DisplayRole, name, 1, Qt::MatchExactly);
+            if (found.isEmpty() || found.first().parent() != index)
+                return {};
+            index = found.first();
+        }
+        return index;
+    }
+    QString pathOf(QModelIndex index) const
+    {
+        QStringList names;
+        for (; index.isValid(); index = index.parent())
+            names.prepend(index.data().toString());
+        return names.join(QLatin1Char('/'));
+    }
+    QPoint centreOf(const QString& path) const { return view.visualRect(at(path)).center(); }
+
+    void click(const QString& path, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, centreOf(path));
+    }
+    // Clicks the first, control-clicks the others.
+    void select(const QStringList& paths)
+    {
+        for (const QString& path : paths)
+            click(path, path == paths.first() ? Qt::NoModifier : Qt::ControlModifier);
+    }
+    QAction* entry(const QString& text)
+    {
+        menu.reset(view.buildContextMenu(&view));
+        for (QAction* action : menu->actions()) {
+            if (action->text() == text)
+                return action;
+        }
+        return nullptr;
+    }
+    std::unique_ptr<QMenu> menu;
+};
+
+QImage imageOf(const QIcon& icon)
+{
+    return icon.pixmap(16, 16).toImage();
+}
+
+const QStringList viewEntries{QStringLiteral("Open Planar View"), QStringLiteral("Open Spherical View"),
+                              QStringLiteral("Open Pointcloud View"), QStringLiteral("Close Views of this Scan"),
+                              QStringLiteral("Close Views of all other Scans")};
+
+struct MenuCase {
+    bool editable;
+    QStringList selected;
+    QStringList entries;
+};
+
+enum class Gesture { Return, Enter, DoubleClick, DoubleClickOnCheckBox };
+
+struct OpenCase {
+    QString path;
+    Gesture gesture;
+    QList<quint32> requested;
+};
+
+struct DeleteCase {
+    bool editable;
+    QStringList selected;
+    bool answer;
+    bool asked;
+    QStringList deleted; // empty: no request
+};
+
+using Request = void (FileTreeView::*)(quint32);
+
+} // namespace
+
+Q_DECLARE_METATYPE(MenuCase)
+Q_DECLARE_METATYPE(OpenCase)
+Q_DECLARE_METATYPE(DeleteCase)
+Q_DECLARE_METATYPE(Request)
+
+class FileTreeViewTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void contextMenuEntries_data()
+    {
+        QTest::addColumn<MenuCase>("c");
+        const QString addScans = QStringLiteral("Add Scans"), addFolder = QStringLiteral("Add Folder"),
+                      rename = QStringLiteral("Rename Folder"), remove = QStringLiteral("Delete Items"),
+                      expand = QStringLiteral("Expand Folder"), collapse = QStringLiteral("Collapse Folder");
+        QTest::newRow("one folder and one scan")
+            << MenuCase{true, {"scans/A", "scans/s"}, {addScans, addFolder, remove}};
+        QTest::newRow("read-only, scans") << MenuCase{false, {"scans/s", "scans/A/a1"}, viewEntries};
+        QTest::newRow("nothing selected") << MenuCase{true, {}, {addScans, addFolder}};
+        QTest::newRow("read-only, nothing selected") << MenuCase{false, {}, {}};
+        QTest::newRow("one folder")
+            << MenuCase{true, {"scans/B"}, {addScans, addFolder, rename, remove, expand, collapse}};
+        QTest::newRow("two folders") << MenuCase{true, {"scans/A", "scans/B"}, {addScans, addFolder, remove, expand, collapse}};
+        QTest::newRow("read-only, one folder") << MenuCase{false, {"scans/A"}, {expand, collapse}};
+        QTest::newRow("scans only")
+            << MenuCase{true, {"scans/t", "scans/B/b1"}, QStringList{addScans, addFolder, remove} + viewEntries};
+    }
+
+    void contextMenuEntries()
+    {
+        QFETCH(MenuCase, c);
+        Fixture f(c.editable);
+        f.select(c.selected);
+        const std::unique_ptr<QMenu> menu(f.view.buildContextMenu(&f.view));
+        QStringList texts;
+        for (const QAction* action : menu->actions())
+            texts << action->text();
+        QCOMPARE(texts, c.entries);
+
+        const std::map<QString, QString> icons{
+            {"Add Scans", ":/tvxcore/resources/addScans.png"},
+            {"Add Folder", ":/tvxcore/resources/addFolder.png"},
+            {"Rename Folder", ":/tvxcore/resources/renameFolder.png"},
+            {"Delete Items", ":/icons/shared/delete.png"},
+            {"Open Planar View", ":/icons/shared/planarview_active.png"},
+            {"Open Spherical View", ":/icons/shared/sphericalview_active.png"},
+            {"Open Pointcloud View", ":/icons/shared/pointcloudview_active.png"}};
+        for (const QAction* action : menu->actions()) {
+            const auto icon = icons.find(action->text());
+            if (icon == icons.end()) {
+                QVERIFY2(action->icon().isNull(), qPrintable(action->text()));
+            } else {
+                QVERIFY2(!action->icon().isNull(), qPrintable(action->text()));
+                QCOMPARE(imageOf(action->icon()), imageOf(QIcon(icon->second)));
+            }
+        }
+    }
+
+    void contextMenuOpensOnlyWithEntries_data()
+    {
+        QTest::addColumn<bool>("editable");
+        QTest::newRow("editable: Add Scans, Add Folder") << true;
+        QTest::newRow("read-only: no entries") << false;
+    }
+
+    void contextMenuOpensOnlyWithEntries()
+    {
+        QFETCH(bool, editable);
+        Fixture f(editable);
+        const QPoint local(12, f.view.viewport()->height() - 12); // below the rows
+        const QPoint global = f.view.viewport()->mapToGlobal(local);
+        bool shown = false;
+        QPoint popupAt;
+        // A shown menu runs its own event loop; close it from there.
+        QTimer::singleShot(0, &f.view, [&shown, &popupAt] {
+            if (QWidget* popup = QApplication::activePopupWidget()) {
+                shown = true;
+                popupAt = popup->pos();
+                popup->close();
+            }
+        });
+        QContextMenuEvent event(QContextMenuEvent::Mouse, local, global);
+        QApplication::sendEvent(f.view.viewport(), &event);
+        QCoreApplication::processEvents(); // runs the timer when no menu loop did
+        QCOMPARE(shown, editable);
+        if (editable)
+            QCOMPARE(popupAt, global);
+    }
+
+    void openingGestures_data()
+    {
+        QTest::addColumn<OpenCase>("c");
+        QTest::newRow("Return on a scan") << OpenCase{"scans/s", Gesture::Return, {12}};
+        QTest::newRow("Enter on a scan in a folder") << OpenCase{"scans/A/a1", Gesture::Enter, {10}};
+        QTest::newRow("double click on a scan") << OpenCase{"scans/B/b1", Gesture::DoubleClick, {11}};
+        QTest::newRow("Return on a folder") << OpenCase{"scans/A", Gesture::Return, {}};
+        QTest::newRow("double click on a folder") << OpenCase{"scans/B", Gesture::DoubleClick, {}};
+        QTest::newRow("double click on a check box") << OpenCase{"scans/t", Gesture::DoubleClickOnCheckBox, {}};
+    }
+
+    void openingGestures()
+    {
+        QFETCH(OpenCase, c);
+        Fixture f;
+        QSignalSpy spy(&f.view, &FileTreeView::requestToOpenPreferredView);
+        const QModelIndex index = f.at(c.path);
+        const bool wasExpanded = f.view.isExpanded(index);
+        switch (c.gesture) {
+        case Gesture::Return:
+        case Gesture::Enter:
+            f.click(c.path);
+            QTest::keyClick(&f.view, c.gesture == Gesture::Return ? Qt::Key_Return : Qt::Key_Enter);
+            break;
+        case Gesture::DoubleClick:
+            doubleClick(f, f.centreOf(c.path));
+            break;
+        case Gesture::DoubleClickOnCheckBox: {
+            const QPoint box = checkBoxOf(f, index);
+            QVERIFY(!box.isNull());
+            doubleClick(f, box);
+            break;
+        }
+        }
+        QList<quint32> requested;
+        for (const QList<QVariant>& arguments : std::as_const(spy))
+            requested << arguments.at(0).value<quint32>();
+        QCOMPARE(requested, c.requested);
+        // Folders keep the tree's own double click.
+        if (c.gesture == Gesture::DoubleClick && f.model.hasChildren(index))
+            QCOMPARE(f.view.isExpanded(index), !wasExpanded);
+    }
+
+    void viewRequestsPerSelectedScan_data()
+    {
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<Request>("request");
+        QTest::newRow("planar") << viewEntries[0] << Request(&FileTreeView::requestToOpenPlanarView);
+        QTest::newRow("spherical") << viewEntries[1] << Request(&FileTreeView::requestToOpenSphericalView);
+        QTest::newRow("point cloud") << viewEntries[2] << Request(&FileTreeView::requestToOpenPointcloudView);
+        QTest::newRow("close") << viewEntries[3] << Request(&FileTreeView::requestToCloseAllViewsOfAScan);
+        QTest::newRow("close others") << viewEntries[4] << Request(&FileTreeView::requestToCloseAllViewsOfAllOtherScans);
+    }
+
+    void viewRequestsPerSelectedScan()
+    {
+        QFETCH(QString, entry);
+        QFETCH(Request, request);
+        Fixture f;
+        f.select({"scans/s", "scans/B/b1", "scans/A/a1"});
+        QSignalSpy spy(&f.view, request);
+        QAction* action = f.entry(entry);
+        QVERIFY(action);
+        action->trigger();
+        // One request per scan, in the order the tree shows them: a1#10, b1#11, s#12.
+        QCOMPARE(spy.count(), 3);
+        QCOMPARE(spy.at(0).at(0).value<quint32>(), 10u);
+        QCOMPARE(spy.at(1).at(0).value<quint32>(), 11u);
+        QCOMPARE(spy.at(2).at(0).value<quint32>(), 12u);
+    }
+
+    void addFolderThenRenameIt()
+    {
+        Fixture f;
+        f.click(QStringLiteral("scans/A/a1"));
+        f.entry(QStringLiteral("Add Folder"))->trigger();
+        const QModelIndex added = f.at(QStringLiteral("scans/A/New Folder"));
+        QVERIFY(added.isValid());
+        QCOMPARE(added.row(), 0); // folders come before the scans
+        auto* editor = qobject_cast<QLineEdit*>(f.view.indexWidget(added));
+        QVERIFY(editor);
+        editor->selectAll();
+        QTest::keyClicks(editor, QStringLiteral("Site 2"));
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_COMPARE(added.data().toString(), QStringLiteral("Site 2")); // the delegate commits queued
+
+        // F2 renames folders, but neither the root folder nor scans.
+        f.click(QStringLiteral("scans"));
+        QTest::keyClick(&f.view, Qt::Key_F2);
+        QVERIFY(!f.view.indexWidget(f.at(QStringLiteral("scans"))));
+        f.click(QStringLiteral("scans/A/Site 2"));
+        QTest::keyClick(&f.view, Qt::Key_F2);
+        QVERIFY(f.view.indexWidget(f.at(QStringLiteral("scans/A/Site 2"))));
+    }
+
+    void deleteKey_data()
+    {
+        QTest::addColumn<DeleteCase>("c");
+        QTest::newRow("confirmed") << DeleteCase{true, {"scans/s", "scans/A"}, true, true, {"scans/A", "scans/s"}};
+        QTest::newRow("declined") << DeleteCase{true, {"scans/s", "scans/A"}, false, true, {}};
+        QTest::newRow("read-only") << DeleteCase{false, {"scans/s"}, true, false, {}};
+        QTest::newRow("a folder with a scan inside")
+            << DeleteCase{true, {"scans/A/a1", "scans/t", "scans/A"}, true, true, {"scans/A", "scans/t"}};
+        QTest::newRow("the root folder only") << DeleteCase{true, {"scans"}, true, false, {}};
+    }
+
+    void deleteKey()
+    {
+        QFETCH(DeleteCase, c);
+        Fixture f(c.editable);
+        f.answer = c.answer;
+        f.select(c.selected);
+        QList<QStringList> requests;
+        connect(&f.view, &FileTreeView::requestToDeleteItems, &f.view, [&f, &requests](QModelIndexList& items) {
+            QStringList paths;
+            for (const QModelIndex& index : items)
+                paths << f.pathOf(index);
+            requests << paths;
+        });
+        QTest::keyClick(&f.view, Qt::Key_Delete);
+        const QStringList expectedQuestions{
+            QStringLiteral("Delete the selected items from the project? The scan files stay on disk.")};
+        QCOMPARE(f.questions, c.asked ? expectedQuestions : QStringList());
+        QCOMPARE(requests, c.deleted.isEmpty() ? QList<QStringList>() : QList<QStringList>{c.deleted});
+    }
+
+private:
+    // What a mouse sends: a click, then the second press as a double click, then its release.
+    static void doubleClick(Fixture& f, const QPoint& at)
+    {
+        QTest::mouseClick(f.view.viewport(), Qt::LeftButton, {}, at);
+        QTest::mouseDClick(f.view.viewport(), Qt::LeftButton, {}, at);
+        QTest::mouseRelease(f.view.viewport(), Qt::LeftButton, {}, at);
+    }
+
+    // Found the way a person would: the spot left in the row where a click toggles the check box.
+    static QPoint checkBoxOf(Fixture& f, const QModelIndex& index)
+    {
+        const QRect row = f.view.visualRect(index);
+        for (int x = row.left(); x < row.left() + 40; ++x) {
+            const QPoint spot(x, row.center().y());
+            const QVariant before = index.data(Qt::CheckStateRole);
+            QTest::mouseClick(f.view.viewport(), Qt::LeftButton, {}, spot);
+            if (index.data(Qt::CheckStateRole) != before) {
+                QTest::mouseClick(f.view.viewport(), Qt::LeftButton, {}, spot);
+                return spot;
+            }
+        }
+        return {};
+    }
+};
+
+TVX_TEST(FileTreeViewTest)
+
+#include "filetreeviewtest.moc"
