@@ -20,4 +20,8 @@ struct ToolRun {
 
 ToolRun runTool(const QStringList& arguments, const QString& workingDirectory = QString());
 
+// The keys of a JSON object with the type of each value, in key order: "key:t" joined by spaces,
+// t being one of a (array), b (bool), n (number), o (object), s (string), 0 (null).
+QString jsonShape(const QJsonObject& object);
+
 } // namespace TVX::TEST

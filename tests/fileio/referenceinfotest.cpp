@@ -45,7 +45,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("result"); // "read", "refused" or the read error
-        QTest::addColumn<QList<int>>("kinds");
+        QTest::addColumn<QStringList>("built"); // the classes, in order
         const QString read = QStringLiteral("read");
         const QString refused = QStringLiteral("refused");
         const QString failed = QStringLiteral("file read error libs/core/src/fileio/tvxfilereferenceinfo, line 203");
@@ -55,42 +55,43 @@ private Q_SLOTS:
         QTest::newRow("point and sphere") << section(2, [](QDataStream& s) {
             writeEntry(s, 1, 10, 1.0, QStringLiteral("P1"));
             writeEntry(s, 2, 10, 11.0, QStringLiteral("S1"));
-        }) << read << QList<int>{1, 2};
+        }) << read << QStringList{"point", "sphere"};
         QTest::newRow("type 3: six and five doubles, name, flag; nothing built") << section(2, [](QDataStream& s) {
             writeEntry(s, 3, 11, 1.0, QStringLiteral("old"));
             writeEntry(s, 1, 10, 1.0, QStringLiteral("P1"));
-        }) << read << QList<int>{1};
+        }) << read << QStringList{"point"};
         QTest::newRow("type 4 likewise") << section(2, [](QDataStream& s) {
             writeEntry(s, 4, 11, 1.0, QStringLiteral("old"));
             writeEntry(s, 1, 10, 1.0, QStringLiteral("P1"));
-        }) << read << QList<int>{1};
+        }) << read << QStringList{"point"};
         QTest::newRow("other type: five doubles, name, flag") << section(2, [](QDataStream& s) {
             writeEntry(s, 9, 5, 1.0, QStringLiteral("odd"));
             writeEntry(s, 1, 10, 1.0, QStringLiteral("P1"));
-        }) << read << QList<int>{1};
-        QTest::newRow("negative count reads no entry") << section(-4, [](QDataStream&) {}) << read << QList<int>{};
+        }) << read << QStringList{"point"};
+        QTest::newRow("negative count reads no entry") << section(-4, [](QDataStream&) {}) << read << QStringList();
         const auto onePoint = [](QDataStream& s) { writeEntry(s, 1, 10, 1.0, QStringLiteral("P1")); };
-        QTest::newRow("wrong end tag") << section(1, onePoint, 0x16FFFF) << refused << QList<int>{1};
-        QTest::newRow("count past the end") << section(0x7FFFFFFF, [](QDataStream&) {}) << refused << QList<int>{};
+        QTest::newRow("wrong end tag") << section(1, onePoint, 0x16FFFF) << refused << QStringList{"point"};
+        QTest::newRow("count past the end") << section(0x7FFFFFFF, [](QDataStream&) {}) << refused << QStringList();
         // An odd name length corrupts the stream; the rest still lines up, so the end tag matches.
         QTest::newRow("corrupt name") << streamBytes([](QDataStream& s) {
             s << quint32(0x150000) << true << quint32(3) << qint32(0) << quint32(0x15FFFF);
-        }) << failed << QList<int>{};
+        }) << failed << QStringList();
     }
 
     void entries()
     {
         QFETCH(QByteArray, bytes);
         QFETCH(QString, result);
-        QFETCH(QList<int>, kinds);
+        QFETCH(QStringList, built);
 
         TVXFileReferenceInfo info;
         QCOMPARE(readSection(info, bytes), result);
-        QCOMPARE(info.objectCount(), kinds.size());
-        for (int i = 0; i < kinds.size(); ++i) {
+        QCOMPARE(info.objectCount(), built.size());
+        for (int i = 0; i < built.size(); ++i) {
             const auto point = std::dynamic_pointer_cast<TVXSReferencePoint>(info.object(i));
             QVERIFY(point);
-            QCOMPARE(int(point->kind()), kinds[i]);
+            const bool sphere = std::dynamic_pointer_cast<TVXSReferenceSphere>(point) != nullptr;
+            QCOMPARE(QString::fromLatin1(sphere ? "sphere" : "point"), built[i]);
             // Ten numbers in file order: the first P1 counts 1..10, S1 11..20.
             const double first = point->name() == QStringLiteral("S1") ? 11.0 : 1.0;
             for (std::size_t v = 0; v < 10; ++v)

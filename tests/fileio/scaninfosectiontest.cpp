@@ -4,8 +4,6 @@
 
 #include <QTest>
 
-#include <cfloat>
-
 using namespace TVX::CORE;
 using namespace TVX::TEST;
 
@@ -24,24 +22,12 @@ QByteArray patched(QByteArray bytes, int at, quint32 value)
 }
 } // namespace
 
-// Defaults, record layout and the failures of the scan information section.
+// Record layout, pose and the failures of the scan information section.
 class ScanInfoSectionTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void defaults()
-    {
-        TVXFileScanInfo info;
-        QCOMPARE(info.scanKind, 1u);
-        QCOMPARE(info.tileSize, 64u);
-        QCOMPARE(info.transformation, (std::array<double, 16>{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}));
-        QCOMPARE(info.boundingBoxMin, Vector3d(DBL_MAX, DBL_MAX, DBL_MAX));
-        QCOMPARE(info.boundingBoxMax, Vector3d(-DBL_MAX, -DBL_MAX, -DBL_MAX));
-        QCOMPARE(info.recordSize(), 0u);
-        QCOMPARE(info.tilesX(), 0u);
-    }
-
     void pose()
     {
         TVXFileScanInfo info;

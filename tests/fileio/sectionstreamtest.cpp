@@ -2,6 +2,8 @@
 
 #include "scanfixture.h"
 
+#include "fileio/sectionstream.h"
+
 #include <QBitArray>
 #include <QColor>
 #include <QDateTime>

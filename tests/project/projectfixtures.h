@@ -1,13 +1,10 @@
 #pragma once
 
 // Test data of the project tests: project files put together by hand from the format's table, and
-// small scans written with the project's own scan writer.
+// small scans written with the project's own scan writer (scanfixture.h).
+#include "scanfixture.h"
 #include "testfiles.h"
 
-#include "scene/tvxsreferencesphere.h"
-#include "fileio/tvxfilereferenceinfo.h"
-#include "fileio/tvxfilescaninfo.h"
-#include "fileio/tvxfilewriter.h"
 #include "project/projectitemscangroup.h"
 
 #include <QByteArray>
@@ -41,24 +38,6 @@ struct ProjectFileFields {
     QByteArray tree;
     quint32 projectEnd = 0x21FFFF, fileEnd = 0x2FFFFF;
 };
-
-inline QDataStream& setUp(QDataStream& stream)
-{
-    stream.setVersion(12);
-    stream.setByteOrder(QDataStream::BigEndian);
-    stream.setFloatingPointPrecision(QDataStream::DoublePrecision);
-    return stream;
-}
-
-template<typename... Values>
-inline QByteArray bytesOf(const Values&... values)
-{
-    QByteArray bytes;
-    QDataStream stream(&bytes, QIODevice::WriteOnly);
-    setUp(stream);
-    (stream << ... << values);
-    return bytes;
-}
 
 inline QByteArray utf8Field(const QByteArray& text)
 {
@@ -131,58 +110,6 @@ inline QString describe(const CORE::ProjectItemPtr& item)
     for (int i = 0; i < folder->childCount(); ++i)
         children << describe(folder->child(i));
     return QStringLiteral("%1%2(%3)").arg(item->name(), flag, children.join(QLatin1Char(' ')));
-}
-
-// The cells of the test scans: colour, intensity and distance follow from column and row, so a
-// test can work out what any cell must show. No cell is without return.
-inline CORE::TVXFileCell testCell(quint32 column, quint32 row)
-{
-    CORE::TVXFileCell cell;
-    cell.distanceMm = 1000 + 7 * column + 3 * row;
-    cell.intensity = quint8((column + 2 * row) % 256);
-    cell.red = quint8((5 * column) % 256);
-    cell.green = quint8((11 * row) % 256);
-    cell.blue = 200;
-    return cell;
-}
-
-struct TestScan {
-    quint32 columns = 40;
-    quint32 rows = 30;
-    quint32 tileSize = 8; // small, so that a lens picture spans several tiles
-    bool intensity = true;
-    bool colour = true;
-    std::array<double, 16> transformation{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
-    std::function<CORE::TVXFileCell(quint32, quint32)> cells = testCell;
-};
-
-// Angle range of the test scans: the full circle, and −π/4 to +π/4 vertically.
-constexpr double testHorizontalMin = 0.0;
-constexpr double testHorizontalMax = 2 * M_PI;
-constexpr double testVerticalMin = -M_PI / 4;
-constexpr double testVerticalMax = M_PI / 4;
-
-inline bool writeTestScan(const QString& path, const TestScan& scan, QString* error = nullptr)
-{
-    CORE::TVXFileWriter writer;
-    CORE::TVXFileScanInfo& info = writer.scanInfo();
-    info.columns = scan.columns;
-    info.rows = scan.rows;
-    info.tileSize = scan.tileSize;
-    info.horizontalMin = testHorizontalMin;
-    info.horizontalMax = testHorizontalMax;
-    info.verticalMin = testVerticalMin;
-    info.verticalMax = testVerticalMax;
-    info.transformation = scan.transformation;
-    info.channels.push_back({CORE::TVXFileScanInfo::Distance, 0});
-    if (scan.intensity)
-        info.channels.push_back({CORE::TVXFileScanInfo::Intensity, 0});
-    if (scan.colour)
-        info.channels.push_back({CORE::TVXFileScanInfo::Colour, 0});
-    writer.referenceInfo().appendObject(std::make_shared<CORE::TVXSReferenceSphere>(
-        QStringLiteral("S1"), CORE::TVXSReferencePoint::Values{1.25, -2.5, 0.75, 0.0725}));
-    writer.setCellSource(scan.cells);
-    return writer.write(path, error);
 }
 
 } // namespace TVX::TEST

@@ -30,7 +30,16 @@ Vector3d tilted(const Vector3d& d, const Vector3d& towards, double angle)
     return unit * std::cos(angle) + across * std::sin(angle);
 }
 
+// Rectangles share p1 = (1, −0.1, −0.1) and p2 = (1, 0.1, −0.1); p0 varies.
+struct RectangleRow {
+    const char* name;
+    Vector3d p0;
+    Vector3d direction;
+    bool hit;
+};
+
 } // namespace
+Q_DECLARE_METATYPE(RectangleRow)
 
 // Hit tests of the point-like, line-like and area items; the polygon has its own test.
 class ScanViewItemsTest : public QObject
@@ -40,38 +49,33 @@ class ScanViewItemsTest : public QObject
 private Q_SLOTS:
     void rectangleHit_data()
     {
-        QTest::addColumn<Vector3d>("p0");
-        QTest::addColumn<Vector3d>("p1");
-        QTest::addColumn<Vector3d>("p2");
-        QTest::addColumn<Vector3d>("direction");
-        QTest::addColumn<bool>("hit");
-
+        QTest::addColumn<RectangleRow>("row");
         // A square of corners (±0.1, ±0.1) in the plane x = 1; p1 is the corner between the two edges.
         const Vector3d p0(1, -0.1, 0.1), p1(1, -0.1, -0.1), p2(1, 0.1, -0.1);
-        QTest::newRow("centre") << p0 << p1 << p2 << ahead(0, 0) << true;
-        // Only the quad's second triangle, reaching to p0 + p2 - p1, covers this one.
-        QTest::newRow("near the derived fourth corner") << p0 << p1 << p2 << ahead(0.09, 0.09) << true;
-        QTest::newRow("beyond an edge") << p0 << p1 << p2 << ahead(0.11, 0.0) << false;
-        QTest::newRow("opposite direction") << p0 << p1 << p2 << -ahead(0, 0) << false;
         // A parallelogram: p1 + s·(p2 - p1) + t·(p0 - p1); (0.15, 0.05) has s = 0.875, t = 0.75.
         const Vector3d skew0(1, 0.0, 0.1);
-        QTest::newRow("parallelogram, inside its slanted part") << skew0 << p1 << p2 << ahead(0.15, 0.05) << true;
-        QTest::newRow("parallelogram, cut-off corner") << skew0 << p1 << p2 << ahead(-0.09, 0.09) << false;
+        const RectangleRow rows[] = {
+            {"centre", p0, ahead(0, 0), true},
+            // Only the quad's second triangle, reaching to p0 + p2 - p1, covers this one.
+            {"near the derived fourth corner", p0, ahead(0.09, 0.09), true},
+            {"beyond an edge", p0, ahead(0.11, 0.0), false},
+            {"opposite direction", p0, -ahead(0, 0), false},
+            {"parallelogram, inside its slanted part", skew0, ahead(0.15, 0.05), true},
+            {"parallelogram, cut-off corner", skew0, ahead(-0.09, 0.09), false},
+        };
+        for (const RectangleRow& row : rows)
+            QTest::newRow(row.name) << row;
     }
 
     void rectangleHit()
     {
-        QFETCH(Vector3d, p0);
-        QFETCH(Vector3d, p1);
-        QFETCH(Vector3d, p2);
-        QFETCH(Vector3d, direction);
-        QFETCH(bool, hit);
-
-        const ScanViewRectangle rectangle(p0, p1, p2);
-        QCOMPARE(rectangle.hitTest(direction), hit);
+        QFETCH(RectangleRow, row);
+        const Vector3d p1(1, -0.1, -0.1), p2(1, 0.1, -0.1);
+        const ScanViewRectangle rectangle(row.p0, p1, p2);
+        QCOMPARE(rectangle.hitTest(row.direction), row.hit);
         const std::vector<Vector3d> corners = rectangle.corners();
         QCOMPARE(corners.size(), std::size_t(4));
-        QVERIFY((corners[3] - (p0 + p2 - p1)).length() < 1e-15);
+        QVERIFY((corners[3] - (row.p0 + p2 - p1)).length() < 1e-15);
     }
 
     void ellipseHit_data()

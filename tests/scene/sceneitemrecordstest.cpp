@@ -9,6 +9,7 @@
 
 #include <QTest>
 
+#include <functional>
 #include <typeinfo>
 
 using namespace TVX::CORE;
@@ -17,116 +18,70 @@ namespace {
 
 const TVXSReferencePoint::Values referenceValues{1.5, -2.25, 3.0, 0.125, 5, 6, 7, 8, 9, 10};
 
-// Every record by name, with a common block that tells copies from fresh records.
-std::shared_ptr<TVXSceneItem> makeRecord(const QString& name)
-{
-    std::shared_ptr<TVXSceneItem> record;
-    if (name == "plain")
-        record = std::make_shared<TVXSceneItem>();
-    else if (name == "polygon")
-        record = std::make_shared<TVXSPolygon>(QPolygonF({{1, 2}, {3, 4}, {5, 0}}), 11);
-    else if (name == "rectangle")
-        record = std::make_shared<TVXSRectangle>(QRectF(1, 2, 30, 40), 12);
-    else if (name == "ellipse")
-        record = std::make_shared<TVXSEllipse>(QRectF(-5, -5, 10, 20), 13);
-    else if (name == "simple text")
-        record = std::make_shared<TVXSSimpleText>(QStringLiteral("Riss"), QPointF(7, 8), QPointF(2, -3), 14);
-    else if (name == "dimensioning")
-        record = std::make_shared<TVXSDimensioning>(2, QPointF(1, 1), QPointF(9, 9), 15);
-    else if (name == "reference object")
-        record = std::make_shared<TVXSReferenceObject>();
-    else if (name == "reference point")
-        record = std::make_shared<TVXSReferencePoint>(QStringLiteral("RP 1"), referenceValues);
-    else if (name == "reference sphere")
-        record = std::make_shared<TVXSReferenceSphere>(QStringLiteral("K 7"), referenceValues);
-    if (record) {
-        record->data().text = QStringLiteral("block of ") + name;
-        record->data().integers = {4, 5};
-        record->data().namedValues.insert(QStringLiteral("layer"), {1, QVariant(QStringLiteral("walls"))});
-        record->data().numberedValues.insert(3, QVariant(2.5));
-    }
-    return record;
-}
-
-// The kind of a record that declares one, else -1.
-int kindOf(const TVXSceneItem& record)
-{
-    if (const auto* item = dynamic_cast<const TVXScene2DItem*>(&record))
-        return int(item->kind());
-    if (const auto* reference = dynamic_cast<const TVXSReferenceObject*>(&record))
-        return int(reference->kind());
-    return -1;
-}
+using MakeRecord = std::function<std::shared_ptr<TVXSceneItem>()>;
 
 } // namespace
+Q_DECLARE_METATYPE(MakeRecord)
 
 class SceneItemRecordsTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    // Reference objects clone as their own class. The 2D records keep the base clone, so their
-    // copies are plain records with the common block only; that is how they are meant to behave.
-    // The 2D kinds are the item kinds of the scan file's scene items section.
-    void kindAndClone_data()
+    // The 2D records keep the base clone: their copies are plain records with only the common
+    // block, by design. Either way the copy owns a block of its own.
+    void twoDimensionalClonesArePlainRecords_data()
     {
-        QTest::addColumn<QString>("record");
-        QTest::addColumn<quint32>("category");
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<quint32>("number"); // last constructor argument of the 2D records
-        QTest::addColumn<quint32>("cloneCategory");
-        QTest::addColumn<int>("cloneKind");
-
-        QTest::newRow("plain") << "plain" << 0u << -1 << 0u << 0u << -1;
-        QTest::newRow("polygon") << "polygon" << 2u << 1 << 11u << 0u << -1;
-        QTest::newRow("rectangle") << "rectangle" << 2u << 2 << 12u << 0u << -1;
-        QTest::newRow("ellipse") << "ellipse" << 2u << 3 << 13u << 0u << -1;
-        QTest::newRow("simple text") << "simple text" << 2u << 4 << 14u << 0u << -1;
-        QTest::newRow("dimensioning") << "dimensioning" << 2u << 6 << 15u << 0u << -1;
-        QTest::newRow("reference object") << "reference object" << 1u << 0 << 0u << 1u << 0;
-        QTest::newRow("reference point") << "reference point" << 1u << 1 << 0u << 1u << 1;
-        QTest::newRow("reference sphere") << "reference sphere" << 1u << 2 << 0u << 1u << 2;
+        QTest::addColumn<MakeRecord>("make");
+        QTest::newRow("polygon")
+            << MakeRecord([] { return std::make_shared<TVXSPolygon>(QPolygonF({{1, 2}, {3, 4}}), 11); });
+        QTest::newRow("rectangle")
+            << MakeRecord([] { return std::make_shared<TVXSRectangle>(QRectF(1, 2, 3, 4), 12); });
+        QTest::newRow("ellipse") << MakeRecord([] { return std::make_shared<TVXSEllipse>(QRectF(-5, -5, 1, 2), 13); });
+        QTest::newRow("simple text") << MakeRecord(
+            [] { return std::make_shared<TVXSSimpleText>(QStringLiteral("Riss"), QPointF(7, 8), QPointF(2, -3), 14); });
+        QTest::newRow("dimensioning")
+            << MakeRecord([] { return std::make_shared<TVXSDimensioning>(2, QPointF(1, 1), QPointF(9, 9), 15); });
     }
 
-    void kindAndClone()
+    void twoDimensionalClonesArePlainRecords()
     {
-        QFETCH(QString, record);
-        QFETCH(quint32, category);
-        QFETCH(int, kind);
-        QFETCH(quint32, number);
-        QFETCH(quint32, cloneCategory);
-        QFETCH(int, cloneKind);
-
-        const std::shared_ptr<TVXSceneItem> original = makeRecord(record);
-        QVERIFY(original);
-        QCOMPARE(original->category(), category);
-        QCOMPARE(kindOf(*original), kind);
-        QCOMPARE(original->data().number, number);
+        QFETCH(MakeRecord, make);
+        const std::shared_ptr<TVXSceneItem> original = make();
+        original->data().text = QStringLiteral("block");
+        original->data().integers = {4, 5};
+        original->data().namedValues.insert(QStringLiteral("layer"), {1, QVariant(QStringLiteral("walls"))});
+        original->data().numberedValues.insert(3, QVariant(2.5));
+        QCOMPARE(original->category(), 2u);
+        QVERIFY(original->data().number != 0); // the last constructor argument
 
         const std::shared_ptr<TVXSceneItem> copy = original->clone();
         QVERIFY(copy && copy != original);
-        QCOMPARE(copy->category(), cloneCategory);
-        QCOMPARE(kindOf(*copy), cloneKind);
-        if (cloneKind < 0)
-            QVERIFY(typeid(*copy) == typeid(TVXSceneItem));
-        // The common block is copied, and the copy owns its own.
-        QCOMPARE(copy->data().text, original->data().text);
+        QVERIFY(typeid(*copy) == typeid(TVXSceneItem));
+        QCOMPARE(copy->category(), 0u);
         QCOMPARE(copy->data().number, original->data().number);
+        QCOMPARE(copy->data().text, original->data().text);
         QCOMPARE(copy->data().integers, original->data().integers);
         QCOMPARE(copy->data().namedValues, original->data().namedValues);
         QCOMPARE(copy->data().numberedValues, original->data().numberedValues);
         copy->data().text = QStringLiteral("changed");
         copy->data().numberedValues.clear();
-        QCOMPARE(original->data().text, QStringLiteral("block of ") + record);
+        QCOMPARE(original->data().text, QStringLiteral("block"));
         QCOMPARE(original->data().numberedValues.size(), 1);
     }
 
-    void referenceClonesKeepTheirData()
+    void referenceObjectsCloneAsTheirOwnClass()
     {
+        const TVXSReferencePoint point(QStringLiteral("RP 1"), referenceValues);
+        QVERIFY(typeid(*point.clone()) == typeid(TVXSReferencePoint));
+        QVERIFY(typeid(*TVXSReferenceObject().clone()) == typeid(TVXSReferenceObject));
+
         TVXSReferenceSphere sphere(QStringLiteral("K 7"), referenceValues);
         sphere.setFlag(true);
         const auto copy = std::dynamic_pointer_cast<TVXSReferenceSphere>(sphere.clone());
         QVERIFY(copy);
+        QCOMPARE(copy->kind(), 2u);
+        QCOMPARE(copy->category(), 1u);
         QCOMPARE(copy->name(), QStringLiteral("K 7"));
         QVERIFY(copy->flag());
         QVERIFY(copy->values() == referenceValues);
