@@ -375,21 +375,6 @@ private Q_SLOTS:
         QCOMPARE(announced, c.announced);
         QCOMPARE(f.shown(), c.rows);
     }
-
-    void toolButtonsStackLeftOfTheTable()
-    {
-        Fixture f;
-        QAction first(QStringLiteral("First"));
-        QAction second(QStringLiteral("Second"));
-        QToolButton* a = f.widget.addToolButton(&first);
-        QToolButton* b = f.widget.addToolButton(&second);
-        QCoreApplication::processEvents();
-        // Margins 0, 5, 3, 5; no spacing in the tool column.
-        QCOMPARE(a->geometry().topLeft(), QPoint(0, 5));
-        QCOMPARE(b->geometry().top(), a->geometry().bottom() + 1);
-        QVERIFY(a->geometry().right() < f.view.geometry().left());
-        QCOMPARE(f.view.geometry().right(), f.widget.width() - 1 - 3);
-    }
 };
 
 TVX_TEST(PointInfoTableTest)
