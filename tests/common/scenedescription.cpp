@@ -1,11 +1,7 @@
 #include "scenedescription.h"
 
-#include "scene/tvxsdimensioning.h"
-#include "scene/tvxsellipse.h"
-#include "scene/tvxspolygon.h"
-#include "scene/tvxsrectangle.h"
-#include "scene/tvxssimpletext.h"
 #include "scene/scanviewscenegraph.h"
+#include "scene/visit2drecord.h"
 
 namespace TVX::TEST {
 
@@ -43,36 +39,39 @@ QString points(const QString& name, const ScanViewItem& item)
 
 QString describeRecord(const TVXSceneItem& record)
 {
-    if (const auto* polygon = dynamic_cast<const TVXSPolygon*>(&record)) {
-        QStringList parts{QStringLiteral("polygon")};
-        for (const QPointF& p : polygon->polygon())
-            parts << point(p);
-        return parts.join(QLatin1Char(' '));
-    }
-    if (const auto* ellipse = dynamic_cast<const TVXSEllipse*>(&record))
-        return QStringLiteral("ellipse ") + rect(ellipse->rectangle());
-    if (const auto* rectangle = dynamic_cast<const TVXSRectangle*>(&record))
-        return QStringLiteral("rectangle ") + rect(rectangle->rectangle());
-    if (const auto* text = dynamic_cast<const TVXSSimpleText*>(&record))
-        return QStringLiteral("text [%1] at %2 offset %3").arg(text->text(), point(text->position()), point(text->offset()));
-    if (const auto* d = dynamic_cast<const TVXSDimensioning*>(&record))
-        return QStringLiteral("dimensioning %1 %2 %3").arg(d->type()).arg(point(d->first()), point(d->second()));
-    return QStringLiteral("other record");
+    QString description = QStringLiteral("other record");
+    visit2DRecord(record, Overloaded{
+                              [&](const TVXSPolygon& polygon) {
+                                  QStringList parts{QStringLiteral("polygon")};
+                                  for (const QPointF& p : polygon.polygon())
+                                      parts << point(p);
+                                  description = parts.join(QLatin1Char(' '));
+                              },
+                              [&](const TVXSEllipse& e) { description = QStringLiteral("ellipse ") + rect(e.rectangle()); },
+                              [&](const TVXSRectangle& r) { description = QStringLiteral("rectangle ") + rect(r.rectangle()); },
+                              [&](const TVXSSimpleText& t) {
+                                  description = QStringLiteral("text [%1] at %2 offset %3")
+                                                    .arg(t.text(), point(t.position()), point(t.offset()));
+                              },
+                              [&](const TVXSDimensioning& d) {
+                                  description = QStringLiteral("dimensioning %1 %2 %3")
+                                                    .arg(d.type())
+                                                    .arg(point(d.first()), point(d.second()));
+                              },
+                          });
+    return description;
 }
 
 QStringList describeGraph(const ScanViewSceneGraph& graph)
 {
     QStringList lines;
-    for (const auto& ellipse : graph.ellipses())
-        lines << points(QStringLiteral("ellipse3d"), *ellipse);
-    for (const auto& polygon : graph.polygons())
-        lines << points(QStringLiteral("polygon3d"), *polygon);
-    for (const auto& rectangle : graph.rectangles())
-        lines << points(QStringLiteral("rectangle3d"), *rectangle);
-    for (const auto& text : graph.textItems())
-        lines << points(QStringLiteral("text3d [%1] at").arg(text->text()), *text);
-    for (const auto& measurement : graph.measurementItems())
-        lines << points(QStringLiteral("measurement3d %1").arg(measurement->type()), *measurement);
+    graph.forEachItem(Overloaded{
+        [&](const ScanViewEllipse& e) { lines << points(QStringLiteral("ellipse3d"), e); },
+        [&](const ScanViewPolygon& p) { lines << points(QStringLiteral("polygon3d"), p); },
+        [&](const ScanViewRectangle& r) { lines << points(QStringLiteral("rectangle3d"), r); },
+        [&](const ScanViewTextItem& t) { lines << points(QStringLiteral("text3d [%1] at").arg(t.text()), t); },
+        [&](const ScanViewMeasurementItem& m) { lines << points(QStringLiteral("measurement3d %1").arg(m.type()), m); },
+    });
     return lines;
 }
 

@@ -17,7 +17,6 @@
 #include <QStandardItemModel>
 #include <QTest>
 #include <QTimer>
-#include <QToolButton>
 
 #include <cmath>
 #include <optional>
