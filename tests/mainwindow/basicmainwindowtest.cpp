@@ -15,6 +15,9 @@
 #include <QAction>
 #include <QDir>
 #include <QDockWidget>
+#include <QImage>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -347,6 +350,33 @@ private Q_SLOTS:
         QCOMPARE(dialogs->shown.value(1),
                  QStringLiteral("Distance Information: DX: %1 m\nDY: %2 m\nDZ: %3 m\n\nDistance 3D: %4 m\nDistance XY: %5 m")
                      .arg(f(dx), f(dy), f(dz), f(std::sqrt(dx * dx + dy * dy + dz * dz)), f(std::hypot(dx, dy))));
+    }
+
+    // A planar view needs its panorama; asking again activates the open one; a new view is told
+    // the current mode; closing it clears the project's open flag.
+    void planarViews()
+    {
+        QTemporaryDir dir;
+        QVERIFY(window->openProject(makeProject(dir)));
+        window->openPlanarView(0);
+        QCOMPARE(dialogs->shown.value(0).section(QStringLiteral(": "), 0, 0), QStringLiteral("Open a new View Failed"));
+        QVERIFY(window->mdiArea()->subWindowList().isEmpty());
+
+        QImage panorama(40, 30, QImage::Format_RGB32);
+        panorama.fill(Qt::gray);
+        QVERIFY(panorama.save(dir.filePath(QStringLiteral("a.jpg"))));
+        actionNamed(*window, QStringLiteral("Delta Z"))->trigger();
+        QSignalSpy modes(window.get(), &BasicMainWindow::graphicsViewModeChanged);
+        window->openPlanarView(0);
+        window->openPlanarView(0);
+        QCOMPARE(window->mdiArea()->subWindowList().size(), 1);
+        QCOMPARE(modes.count(), 1);
+        QCOMPARE(modes.at(0), (QList<QVariant>{1, 6}));
+        QCOMPARE(window->mdiArea()->subWindowList().first()->windowTitle(), QStringLiteral("Planar View: a.tvx"));
+        BasicProject& project = BasicProject::instance();
+        QVERIFY(project.isViewOpen(0, BasicProject::PlanarView));
+        window->mdiArea()->subWindowList().first()->close();
+        QVERIFY(!project.isViewOpen(0, BasicProject::PlanarView));
     }
 
     void messagesFromOtherInstances()

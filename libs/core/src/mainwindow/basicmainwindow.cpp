@@ -8,10 +8,14 @@
 #include "mainwindow/interactionmodes.h"
 #include "mainwindow/logtablemodel.h"
 #include "mainwindow/logtableview.h"
+#include "mainwindow/mdicontextmenu.h"
+#include "mainwindow/mdiplanarviewsubwindow.h"
 #include "mainwindow/pointinfotablemodel.h"
 #include "mainwindow/pointinfotableviewwidget.h"
 #include "mainwindow/recentprojectlist.h"
 #include "mainwindow/userdialogs.h"
+#include "fileio/tvxfilescaninfo.h"
+#include "planarview/graphicsview.h"
 #include "planarview/lenswidget.h"
 #include "fileio/tvxfile.h"
 #include "project/basicproject.h"
@@ -676,9 +680,109 @@ void BasicMainWindow::openViewWithPreferredStyle(quint32 scanId)
     }
 }
 
+MdiSubWindow* BasicMainWindow::findSubWindow(quint32 scanId, MdiSubWindow::MdiSubWindowType kind) const
+{
+    for (QMdiSubWindow* window : d->mdiArea->subWindowList()) {
+        auto* sub = qobject_cast<MdiSubWindow*>(window);
+        if (sub && sub->scanId() == scanId && sub->subWindowType() == kind)
+            return sub;
+    }
+    return nullptr;
+}
+
+MDIContextMenu* BasicMainWindow::buildContextMenu(MdiSubWindow::MdiSubWindowType kind, quint32 scanId)
+{
+    auto* menu = new MDIContextMenu(scanId, this);
+    const bool drawing = kind == MdiSubWindow::PlanarView || kind == MdiSubWindow::SphericalView;
+    if (drawing) {
+        menu->addActions({d->pick, d->clearPickedPoints, d->clearPointList});
+        menu->addSeparator();
+    }
+    if (kind != MdiSubWindow::PlanarView)
+        menu->addAction(QIcon(QStringLiteral(":/icons/shared/planarview_active.png")), tr("Open Planar View"), menu,
+                        &MDIContextMenu::openPlanarViewForSelectedItem);
+    if (kind != MdiSubWindow::SphericalView)
+        menu->addAction(QIcon(QStringLiteral(":/icons/shared/sphericalview_active.png")), tr("Open Spherical View"),
+                        menu, &MDIContextMenu::openSphericalViewForSelectedItem);
+    if (kind != MdiSubWindow::PointcloudView)
+        menu->addAction(QIcon(QStringLiteral(":/icons/shared/pointcloudview_active.png")), tr("Open Pointcloud View"),
+                        menu, &MDIContextMenu::openPointCloudViewForSelectedItem);
+    menu->addAction(tr("Close Views of this Scan"), menu, &MDIContextMenu::closeAllViewsOfAScanForSelectedItem);
+    menu->addAction(tr("Close Views of all other Scans"), menu,
+                    &MDIContextMenu::closeAllViewsOfAllOtherScansForSelectedItem);
+    menu->addSeparator();
+    if (drawing) {
+        menu->addActions({d->editElements, d->addPolygon, d->addRectangle, d->addEllipse, d->addText});
+        menu->addSeparator();
+        menu->addActions({d->distance3D, d->distanceXY, d->deltaZ, d->distanceInfo});
+        menu->addSeparator();
+    }
+    connect(menu, &MDIContextMenu::requestToOpenPlanarView, this, &BasicMainWindow::openPlanarView);
+    connect(menu, &MDIContextMenu::requestToOpenSphericalView, this, &BasicMainWindow::openSphericalView);
+    connect(menu, &MDIContextMenu::requestToOpenPointcloudView, this, &BasicMainWindow::openPointcloudView);
+    connect(menu, &MDIContextMenu::requestToCloseAllViewsOfAScan, this, &BasicMainWindow::closeAllViewsOfAScan);
+    connect(menu, &MDIContextMenu::requestToCloseAllViewsOfAllOtherScans, this,
+            &BasicMainWindow::closeAllViewsOfAllOtherScans);
+    return menu;
+}
+
+void BasicMainWindow::addScanSubWindow(MdiSubWindow* sub)
+{
+    d->mdiArea->addSubWindow(sub);
+    connect(sub, &MdiSubWindow::signalMouseEntered, this, [this](MdiSubWindow* window) { d->subWindowUnderMouse = window; });
+}
+
 void BasicMainWindow::openPlanarView(quint32 scanId)
 {
-    log(LogTableModel::Information, tr("Planar views are not available in this version (scan %1).").arg(scanId));
+    const BusyCursor busy;
+    if (MdiSubWindow* existing = findSubWindow(scanId, MdiSubWindow::PlanarView)) {
+        d->mdiArea->setActiveSubWindow(existing);
+        return;
+    }
+    BasicProject& p = project();
+    const auto file = p.scanFileOf(scanId);
+    if (!file)
+        return;
+    const QFileInfo scanFile(file->path());
+    const QString imagePath = scanFile.absolutePath() + QLatin1Char('/') + scanFile.completeBaseName() + QStringLiteral(".jpg");
+    const QImage image(imagePath);
+    if (image.isNull()) {
+        log(LogTableModel::Warning, tr("The panorama %1 cannot be read.").arg(QDir::toNativeSeparators(imagePath)));
+        warn(tr("Open a new View Failed"),
+             tr("Tarvenix was unable to open a new scan view. Please close some other views and try again."));
+        return;
+    }
+    const TVXFileScanInfo& info = file->scanInfo();
+    auto* sub = new MDIPlanarViewSubWindow(scanId, image, int(info.columns), int(info.rows));
+    sub->setWindowTitle(tr("Planar View: ") + scanFile.fileName());
+    sub->setContextMenu(buildContextMenu(MdiSubWindow::PlanarView, scanId));
+    addScanSubWindow(sub);
+    connect(sub, &MdiSubWindow::signalAboutToClose, this, &BasicMainWindow::closePlanarView);
+
+    GraphicsView* view = sub->graphicsView();
+    connect(view, &GraphicsView::signalRowAndColumnMouseMove, this, &BasicMainWindow::showColumnAndRowInStatusLine);
+    connect(view, &GraphicsView::signalLensModeEnabled, this, &BasicMainWindow::lensModeEnabled);
+    connect(view, &GraphicsView::qsig_UpdateLens, this, &BasicMainWindow::updateLens);
+    connect(view, &GraphicsView::signalLMBClick, this, &BasicMainWindow::pointSelectionInPlanarView);
+    connect(view, &GraphicsView::signalRemovePointFromLMBClick, this, &BasicMainWindow::removeLastPointFromList);
+    connect(view, &GraphicsView::signalDBLClickScanPositionPlanarView, this, &BasicMainWindow::openViewWithPreferredStyle);
+    connect(this, &BasicMainWindow::graphicsViewModeChanged, view, &GraphicsView::graphicsViewModeChanged);
+    connect(this, &BasicMainWindow::cursorContextChanged, view, &GraphicsView::cursorContextChanged);
+    connect(this, &BasicMainWindow::clearPickedPointMarks, view, &GraphicsView::removeAndDeleteAllPickedPointItems);
+
+    p.setViewOpen(scanId, BasicProject::PlanarView, true);
+    sub->show();
+    sub->fit();
+    loadAnnotationsForPlanarView(scanId);
+
+    InteractionModes::CheckedActions checked;
+    checked.distance3D = d->distance3D->isChecked();
+    checked.distanceXY = d->distanceXY->isChecked();
+    checked.deltaZ = d->deltaZ->isChecked();
+    checked.zoomIn = d->zoomIn->isChecked();
+    checked.zoomOut = d->zoomOut->isChecked();
+    for (const InteractionModes::Pair& pair : InteractionModes::pairsForNewView(operators().currentMode(), checked))
+        Q_EMIT graphicsViewModeChanged(pair.first, pair.second);
 }
 
 void BasicMainWindow::openSphericalView(quint32 scanId)
@@ -758,7 +862,10 @@ bool BasicMainWindow::saveAnnotationsForAllOpenPlanarViews()
 
 void BasicMainWindow::disableInteractiveLensMode() {}
 
-void BasicMainWindow::clear_picked_point_items() {}
+void BasicMainWindow::clear_picked_point_items()
+{
+    Q_EMIT clearPickedPointMarks();
+}
 
 void BasicMainWindow::projectTreeScanCheckBoxChanged() {}
 

@@ -14,6 +14,7 @@ namespace TVX::CORE {
 
 class FileTreeView;
 class LogTableModel;
+class MDIContextMenu;
 class PointInfoTableViewWidget;
 class UserDialogs;
 
@@ -48,6 +49,8 @@ Q_SIGNALS:
     void interactionModeChanged();
     void graphicsViewModeChanged(int mode, int subMode);
     void cursorContextChanged(TVX::CORE::CursorId cursor);
+    // Every planar view takes its picked-point marks away.
+    void clearPickedPointMarks();
 
 public Q_SLOTS:
     void handle_message(const QString& message);
@@ -102,6 +105,11 @@ protected:
     virtual void updateWindowTitle(const QString& projectPath);
     // A warning box that also goes into the report log.
     void warn(const QString& title, const QString& text);
+    // The context menu of a scan view's sub window of a kind, with the window's actions.
+    MDIContextMenu* buildContextMenu(MdiSubWindow::MdiSubWindowType kind, quint32 scanId);
+    // The sub window of a scan and kind; null when none is open.
+    MdiSubWindow* findSubWindow(quint32 scanId, MdiSubWindow::MdiSubWindowType kind) const;
+    void addScanSubWindow(MdiSubWindow* sub);
 
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;

@@ -1,0 +1,217 @@
+#include "testregistry.h"
+
+#include "planarview/graphicsview.h"
+#include "planarview/interactivegraphicsitem.h"
+#include "planarview/panoramaitem.h"
+#include "planarview/pickedpointgfxitem.h"
+
+#include <QGraphicsScene>
+#include <QImage>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <cmath>
+
+using namespace TVX::CORE;
+
+namespace {
+
+// An item that takes one point per press and is finished after `needed` presses; the view only
+// talks to it through the item contract.
+class CountingItem final : public InteractiveGraphicsItem
+{
+public:
+    explicit CountingItem(int needed) : m_needed(needed) {}
+    QRectF boundingRect() const override { return QRectF(0, 0, 1, 1); }
+    void paint(QPainter*, const QStyleOptionGraphicsItem*, QWidget*) override {}
+    bool isUnderConstruction() const override { return int(points.size()) < m_needed; }
+    void constructionMousePress(const QPointF& p) override { points.push_back(p); }
+    void constructionMouseRelease(const QPointF&) override {}
+    void constructionMouseMove(const QPointF&) override {}
+    bool grabHandle(const QPointF&, const QTransform&) override { return false; }
+    void releaseHandle(const QPointF&) override {}
+    bool takeBackLastPoint() override
+    {
+        if (points.empty())
+            return false;
+        points.pop_back();
+        return true;
+    }
+    bool lastPoint(QPointF& p) const override
+    {
+        if (points.empty())
+            return false;
+        p = points.back();
+        return true;
+    }
+    std::vector<QPointF> points;
+
+private:
+    int m_needed;
+};
+
+struct Fixture {
+    QGraphicsScene scene{QRectF(0, 0, 400, 200)};
+    GraphicsView view{7};
+
+    Fixture()
+    {
+        view.setScene(&scene);
+        view.resize(420, 220);
+        // Four pixels per cell, so that quarter cells map onto whole pixels and back.
+        view.setTransform(QTransform::fromScale(4, 4));
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        view.centerOn(100, 50);
+    }
+
+    QPoint at(double x, double y) const { return view.mapFromScene(QPointF(x, y)); }
+    // Sent directly: the platform's cursor may already stand at the position.
+    void move(const QPoint& p)
+    {
+        QMouseEvent event(QEvent::MouseMove, QPointF(p), view.viewport()->mapToGlobal(QPointF(p)), Qt::NoButton,
+                          Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(view.viewport(), &event);
+    }
+};
+
+} // namespace
+
+class GraphicsViewTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pickSendsTheTruncatedCell()
+    {
+        Fixture f;
+        QSignalSpy picked(&f.view, &GraphicsView::signalLMBClick);
+        QSignalSpy moved(&f.view, &GraphicsView::signalRowAndColumnMouseMove);
+        f.move(f.at(120.5, 40.75));
+        QTest::mouseClick(f.view.viewport(), Qt::LeftButton, {}, f.at(120.5, 40.75));
+        QCOMPARE(picked.count(), 1);
+        QCOMPARE(picked.at(0), (QList<QVariant>{7u, 120, 40}));
+        QCOMPARE(moved.last().at(0).toPoint(), QPoint(120, 40));
+        int marks = 0;
+        for (QGraphicsItem* item : f.scene.items())
+            marks += item->type() == PickedPointGFXItem::Type ? 1 : 0;
+        QCOMPARE(marks, 1);
+        // A double click on the mark takes it away and asks to remove the point.
+        QSignalSpy removed(&f.view, &GraphicsView::signalRemovePointFromLMBClick);
+        QTest::mouseDClick(f.view.viewport(), Qt::LeftButton, {}, f.at(120.5, 40.75));
+        QCOMPARE(removed.count(), 1);
+    }
+
+    // With Shift held the lens walks one cell per event along each moved axis, however far the
+    // mouse went; releasing any key but Control ends lens mode.
+    void lensWalksOneCellPerEvent()
+    {
+        Fixture f;
+        QSignalSpy lens(&f.view, &GraphicsView::qsig_UpdateLens);
+        QSignalSpy enabled(&f.view, &GraphicsView::signalLensModeEnabled);
+        f.move(f.at(100.5, 50.5));
+        QTest::keyPress(&f.view, Qt::Key_Shift, Qt::ShiftModifier);
+        QVERIFY(f.view.isLensMode());
+        f.move(f.at(140.5, 70.5)); // far right and down
+        f.move(f.at(60.5, 70.5)); // far left, still below the lens
+        QCOMPARE(lens.count(), 2);
+        QCOMPARE(lens.at(0), (QList<QVariant>{7u, 101, 51}));
+        QCOMPARE(lens.at(1), (QList<QVariant>{7u, 100, 52}));
+        QKeyEvent letter(QEvent::KeyRelease, Qt::Key_A, Qt::ShiftModifier);
+        QCoreApplication::sendEvent(&f.view, &letter);
+        QVERIFY(!f.view.isLensMode());
+        QCOMPARE(enabled.last().at(0).toBool(), false);
+        const int announced = int(enabled.count());
+        QKeyEvent controlPress(QEvent::KeyPress, Qt::Key_Control, Qt::ControlModifier);
+        QKeyEvent controlRelease(QEvent::KeyRelease, Qt::Key_Control, Qt::NoModifier);
+        QCoreApplication::sendEvent(&f.view, &controlPress);
+        QCoreApplication::sendEvent(&f.view, &controlRelease);
+        QCOMPARE(enabled.count(), announced);
+    }
+
+    void wheelZoomHasNoLimits()
+    {
+        Fixture f;
+        for (int i = 0; i < 40; ++i) {
+            QWheelEvent wheel(QPointF(f.at(100, 50)), f.view.viewport()->mapToGlobal(QPointF(f.at(100, 50))), QPoint(),
+                              QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(f.view.viewport(), &wheel);
+        }
+        // 40 notches out: 4 · 1.25^(−40·120/240) = 4 · 1.25^−20.
+        QVERIFY(std::abs(f.view.transform().m11() - 4 * std::pow(1.25, -20)) < 1e-9);
+    }
+
+    void zoomModeSteps()
+    {
+        Fixture f;
+        f.view.graphicsViewModeChanged(GraphicsView::Zoom, 1);
+        const QPoint centre = f.at(100, 50);
+        QTest::mousePress(f.view.viewport(), Qt::LeftButton, {}, centre);
+        QVERIFY(std::abs(f.view.transform().m11() - 4 * 0.8) < 1e-12);
+        // The double click itself zooms twice more.
+        QMouseEvent doubleClick(QEvent::MouseButtonDblClick, QPointF(centre), f.view.viewport()->mapToGlobal(QPointF(centre)),
+                                Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(f.view.viewport(), &doubleClick);
+        QVERIFY(std::abs(f.view.transform().m11() - 4 * 0.8 * 0.8 * 0.8) < 1e-12);
+    }
+
+    // Construction through the item contract: finishing, taking points back, aborting, and the
+    // unfinished item dropped by a mode change.
+    void construction_data()
+    {
+        QTest::addColumn<QString>("gesture");
+        QTest::addColumn<int>("added");
+        QTest::addColumn<int>("itemsLeft");
+        QTest::newRow("two presses finish") << "LL" << 1 << 1;
+        QTest::newRow("right press takes the point back, then aborts") << "LRR" << 0 << 0;
+        QTest::newRow("other sub-mode drops the unfinished item") << "LM" << 0 << 0;
+        QTest::newRow("same mode and sub-mode keeps it") << "LSL" << 1 << 1;
+    }
+
+    void construction()
+    {
+        QFETCH(QString, gesture);
+        QFETCH(int, added);
+        QFETCH(int, itemsLeft);
+        Fixture f;
+        QPointer<CountingItem> made;
+        f.view.setItemFactory([&made](int) { return made = new CountingItem(2); });
+        f.view.graphicsViewModeChanged(GraphicsView::CreateItem, 1);
+        QSignalSpy spy(&f.view, &GraphicsView::signalSceneElementAdded);
+        double x = 60;
+        for (const QChar step : gesture) {
+            x += 10;
+            f.move(f.at(x, 60));
+            if (step == QLatin1Char('L'))
+                QTest::mouseClick(f.view.viewport(), Qt::LeftButton, {}, f.at(x, 60));
+            else if (step == QLatin1Char('R'))
+                QTest::mousePress(f.view.viewport(), Qt::RightButton, {}, f.at(x, 60));
+            else
+                f.view.graphicsViewModeChanged(GraphicsView::CreateItem, step == QLatin1Char('M') ? 2 : 1);
+        }
+        QCOMPARE(spy.count(), added);
+        int items = 0;
+        for (QGraphicsItem* item : f.scene.items())
+            items += dynamic_cast<InteractiveGraphicsItem*>(item) ? 1 : 0;
+        QCOMPARE(items, itemsLeft);
+    }
+
+    // The pyramid level follows the zoom, and all levels together stay within 1.5 × the image.
+    void panoramaLevels()
+    {
+        QImage image(1000, 500, QImage::Format_RGB32);
+        image.fill(Qt::darkGreen);
+        const PanoramaItem item(image, 2000, 1000);
+        QCOMPARE(item.boundingRect(), QRectF(0, 0, 2000, 1000));
+        QCOMPARE(item.levelFor(0.5), 0);
+        QCOMPARE(item.levelFor(1.0), 0);
+        QCOMPARE(item.levelFor(2.5), 1);
+        QCOMPARE(item.levelFor(1e9), item.levelCount() - 1);
+        QVERIFY(item.byteCount() <= qint64(1.5 * image.sizeInBytes()));
+    }
+};
+
+TVX_TEST(GraphicsViewTest)
+
+#include "graphicsviewtest.moc"
