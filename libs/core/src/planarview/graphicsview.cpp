@@ -481,7 +481,9 @@ void GraphicsView::mouseDoubleClickEvent(QMouseEvent* event)
     if (d->mode == PickPoint && scene()) {
         const QList<QGraphicsItem*> hit = items(event->position().toPoint());
         if (!hit.isEmpty() && hit.first()->type() == PickedPointGFXItem::Type) {
-            scene()->removeItem(hit.first());
+            QGraphicsItem* mark = hit.first();
+            scene()->removeItem(mark);
+            delete mark;
             Q_EMIT signalRemovePointFromLMBClick(d->scanId, cellOf(at.x()), cellOf(at.y()));
         }
     } else if (d->mode == CreateItem && event->button() == Qt::LeftButton && d->underConstruction) {

@@ -1,5 +1,7 @@
 #include "project/basicproject.h"
 
+#include "annotations/annotationfile.h"
+#include "annotations/sceneitemstablemodel.h"
 #include "fileio/tvxfile.h"
 #include "fileio/tvxfilescaninfo.h"
 #include "fileio/tvxfiletilecache.h"
@@ -9,8 +11,10 @@
 #include "project/projectmessages.h"
 #include "project/projecttreerecords.h"
 #include "project/referencepointstablemodel.h"
+#include "scene/scanviewscenegraph.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QSettings>
@@ -30,6 +34,12 @@ struct ScanEntry {
     QString relativePath;
     std::shared_ptr<TVXFile> file;
     std::shared_ptr<ScanViewSceneGraph> sceneGraph;
+    // The spherical items that came with the scan file: they are not the user's and never go
+    // into the annotation file.
+    std::set<const ScanViewItem*> scanFileItems;
+    QSharedPointer<SceneItemsTableModel> sceneItems;
+    bool annotationsLoaded{false};
+    bool annotationsUnreadable{false};
     QSharedPointer<ReferencePointsTableModel> referencePoints;
     std::array<bool, 3> viewOpen{}; // planar, spherical, point cloud
     bool modified{false};
@@ -286,6 +296,8 @@ bool BasicProject::attachScan(quint32 scanId, const QString& relativePath, QStri
     entry.relativePath = relativePath;
     entry.file = file;
     entry.sceneGraph = file->sceneGraph();
+    entry.sceneGraph->forEachItem([&entry](const ScanViewItem& item) { entry.scanFileItems.insert(&item); });
+    entry.sceneItems = QSharedPointer<SceneItemsTableModel>::create();
     entry.referencePoints = QSharedPointer<ReferencePointsTableModel>::create(file);
     d->scans.push_back(std::move(entry));
     return true;
@@ -487,6 +499,85 @@ std::shared_ptr<ScanViewSceneGraph> BasicProject::sceneGraph(quint32 scanId) con
 {
     const ScanEntry* entry = d->entry(scanId);
     return entry ? entry->sceneGraph : nullptr;
+}
+
+QSharedPointer<SceneItemsTableModel> BasicProject::sceneItems(quint32 scanId) const
+{
+    const ScanEntry* entry = d->entry(scanId);
+    return entry ? entry->sceneItems : nullptr;
+}
+
+QString BasicProject::annotationFilePath(quint32 scanId) const
+{
+    const ScanEntry* entry = d->entry(scanId);
+    return entry ? QDir::toNativeSeparators(AnnotationFile::path(entry->file->path())) : QString();
+}
+
+bool BasicProject::loadAnnotations(quint32 scanId, QString& error)
+{
+    error.clear();
+    ScanEntry* entry = d->entry(scanId);
+    if (!entry || entry->annotationsLoaded)
+        return true;
+    entry->annotationsLoaded = true;
+    entry->annotationsUnreadable =
+        !AnnotationFile::load(entry->file->path(), *entry->sceneItems, entry->sceneGraph.get(), &error);
+    return !entry->annotationsUnreadable;
+}
+
+bool BasicProject::saveAnnotations(quint32 scanId, QString& error)
+{
+    error.clear();
+    ScanEntry* entry = d->entry(scanId);
+    if (!entry)
+        return true;
+    if (d->readOnly) {
+        error = tr("the project is open read-only");
+        return false;
+    }
+    // Never replace a file whose items were not read first: they would be lost.
+    if (!entry->annotationsLoaded) {
+        QString loadError;
+        loadAnnotations(scanId, loadError);
+    }
+    const QString path = AnnotationFile::path(entry->file->path());
+    if (entry->annotationsUnreadable && QFileInfo::exists(path)) {
+        const QString kept = path + QStringLiteral(".unreadable");
+        QFile::remove(kept);
+        if (!QFile::copy(path, kept)) {
+            error = tr("the unreadable annotation file cannot be kept as %1").arg(QDir::toNativeSeparators(kept));
+            return false;
+        }
+    }
+    ScanViewSceneGraph userItems;
+    const auto keepUsers = [&](const auto& list) {
+        for (const auto& item : list) {
+            if (entry->scanFileItems.count(item.get()) == 0)
+                userItems.addItem(item);
+        }
+    };
+    const ScanViewSceneGraph& graph = *entry->sceneGraph;
+    keepUsers(graph.ellipses());
+    keepUsers(graph.polygons());
+    keepUsers(graph.rectangles());
+    keepUsers(graph.textItems());
+    keepUsers(graph.measurementItems());
+    if (!AnnotationFile::save(entry->file->path(), *entry->sceneItems, &userItems, &error))
+        return false;
+    entry->annotationsUnreadable = false;
+    entry->modified = false;
+    announceUnsavedChanges();
+    return true;
+}
+
+QList<quint32> BasicProject::scansWithModifiedAnnotations() const
+{
+    QList<quint32> ids;
+    for (const ScanEntry& entry : d->scans) {
+        if (entry.modified)
+            ids << entry.id;
+    }
+    return ids;
 }
 
 QSharedPointer<ReferencePointsTableModel> BasicProject::referencePoints(quint32 scanId) const

@@ -18,6 +18,7 @@ namespace TVX::CORE {
 class FileTreeModel;
 class ReferencePointsTableModel;
 class ScanViewSceneGraph;
+class SceneItemsTableModel;
 class TVXFile;
 
 // One cell of a scan as the project reads it (scan frame, metres).
@@ -112,6 +113,24 @@ public:
     std::shared_ptr<TVXFile> scanFileOf(quint32 scanId) const;
     std::shared_ptr<ScanViewSceneGraph> sceneGraph(quint32 scanId) const;
     QSharedPointer<ReferencePointsTableModel> referencePoints(quint32 scanId) const;
+    // The scan's planar annotation records, shared with the items of its planar views.
+    QSharedPointer<SceneItemsTableModel> sceneItems(quint32 scanId) const;
+
+    // The scan's annotation file ("-viewer.xml" beside the scan file), native separators.
+    QString annotationFilePath(quint32 scanId) const;
+    // Reads the scan's annotation file into its planar records and its scene graph, once per
+    // opening of the project; later calls do nothing. A missing file is no error. On failure
+    // `error` says why ("<message>\nLine <l>, column <c>" for a document that does not parse);
+    // what was read before the fault stays.
+    bool loadAnnotations(quint32 scanId, QString& error);
+    // Writes the scan's annotation file from its planar records and the spherical items that the
+    // user made (those of the scan file stay out), replacing the old file only once the new one is
+    // complete, and clears the scan's modified flag. A file that could not be read is first read
+    // (if it never was) and, when unreadable, kept beside as "<file>.unreadable". False with the
+    // cause, the flag kept, when the project is read-only or the file cannot be written.
+    bool saveAnnotations(quint32 scanId, QString& error);
+    // The scans whose annotations changed since they were saved, in list order.
+    QList<quint32> scansWithModifiedAnnotations() const;
     // The name of the scan's node in the tree; empty when none.
     QString scanName(quint32 scanId) const;
     // The scan file's path relative to the project directory, as the project file stores it.

@@ -19,4 +19,19 @@ PointDistance pointDistance(const Vector3d& first, const ScanPose& firstPose, co
     return result;
 }
 
+double dimensioningDistance(quint32 type, const Vector3d& first, const Vector3d& second, const Matrix3d& rotation)
+{
+    const Vector3d d = rotation * first - rotation * second;
+    switch (type) {
+    case 0:
+        return std::sqrt(d.dot(d));
+    case 1:
+        return std::abs(d.z);
+    case 2:
+        return std::hypot(d.x, d.y);
+    default:
+        return -1.0;
+    }
+}
+
 } // namespace TVX::CORE

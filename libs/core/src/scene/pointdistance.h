@@ -3,6 +3,8 @@
 #include "scene/scanpose.h"
 #include "scene/vector3d.h"
 
+#include <QtGlobal>
+
 namespace TVX::CORE {
 
 // The differences between two points of possibly different scans, in the common project frame.
@@ -19,5 +21,11 @@ struct PointDistance {
 // precision; the differences are the same as with the full translations.
 PointDistance pointDistance(const Vector3d& first, const ScanPose& firstPose, const Vector3d& second,
                             const ScanPose& secondPose);
+
+// The distance that a planar dimensioning of `type` measures between two points of one scan
+// (scan frame): 0 the 3D distance, 1 the height difference |dz|, 2 the horizontal distance. The
+// points are first turned into the project frame with the scan's rotation, so that a tilted scan
+// measures height and horizontal distance levelled; the translation cancels. -1 for another type.
+double dimensioningDistance(quint32 type, const Vector3d& first, const Vector3d& second, const Matrix3d& rotation);
 
 } // namespace TVX::CORE
