@@ -59,7 +59,14 @@ ViewerMainWindow::~ViewerMainWindow() = default;
 
 bool ViewerMainWindow::openProject(QString fileName)
 {
-    return BasicMainWindow::openProject(fileName);
+    if (!BasicMainWindow::openProject(fileName))
+        return false;
+    // Annotations are read with the project, so that saving never writes a scan's file from an
+    // annotation set that was not read first.
+    const BasicProject& project = Application::instance().project();
+    for (int index = 0; index < project.scanCount(); ++index)
+        reportAnnotationLoad(project.scanIdAt(index));
+    return true;
 }
 
 void ViewerMainWindow::closeEvent(QCloseEvent* event)

@@ -6,16 +6,26 @@
 #include "glviews/scanviewoperatormanager.h"
 #include "mainwindow/application.h"
 #include "mainwindow/basicmainwindow.h"
+#include "annotations/sceneitemstablemodel.h"
 #include "mainwindow/logtablemodel.h"
+#include "mainwindow/mdicontextmenu.h"
+#include "mainwindow/mdiplanarviewsubwindow.h"
 #include "mainwindow/pointinfotablemodel.h"
 #include "mainwindow/pointinfotableviewwidget.h"
 #include "mainwindow/userdialogs.h"
+#include "planarview/graphicsview.h"
+#include "planarview/interactivedimensioning.h"
+#include "planarview/interactivestationmark.h"
 #include "project/basicproject.h"
+#include "project/filetreemodel.h"
 
 #include <QAction>
 #include <QDir>
 #include <QDockWidget>
+#include <QFile>
+#include <QGraphicsScene>
 #include <QImage>
+#include <QMenu>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QSettings>
@@ -24,6 +34,8 @@
 #include <QTest>
 #include <QToolBar>
 
+#include <algorithm>
+#include <cmath>
 #include <deque>
 #include <functional>
 
@@ -95,6 +107,59 @@ QString makeProject(const QTemporaryDir& dir)
     return path;
 }
 
+void writePanorama(const QTemporaryDir& dir, const QString& name)
+{
+    QImage panorama(40, 30, QImage::Format_RGB32);
+    panorama.fill(Qt::gray);
+    QVERIFY(panorama.save(dir.filePath(name)));
+}
+
+QByteArray fileBytes(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+template<typename Item>
+QList<Item*> itemsOf(const GraphicsView& view)
+{
+    QList<Item*> found;
+    for (QGraphicsItem* item : view.scene()->items()) {
+        if (auto* typed = dynamic_cast<Item*>(item))
+            found << typed;
+    }
+    return found;
+}
+
+// What a user does with the mouse in a planar view, in cells.
+struct PlanarUser {
+    GraphicsView* view;
+
+    QPoint at(const QPointF& cell) const { return view->mapFromScene(cell); }
+    void moveTo(const QPointF& cell) const
+    {
+        const QPoint p = at(cell);
+        QMouseEvent event(QEvent::MouseMove, QPointF(p), view->viewport()->mapToGlobal(QPointF(p)), Qt::NoButton,
+                          Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(view->viewport(), &event);
+    }
+    void click(const QPointF& cell) const
+    {
+        moveTo(cell);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(cell));
+    }
+    void doubleClick(const QPointF& cell) const
+    {
+        moveTo(cell);
+        QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, at(cell));
+    }
+};
+
+// Opens the protected menu builder to the test.
+struct MenuWindow : BasicMainWindow {
+    using BasicMainWindow::buildContextMenu;
+};
+
 } // namespace
 
 class BasicMainWindowTest : public QObject
@@ -103,6 +168,16 @@ class BasicMainWindowTest : public QObject
 
     std::unique_ptr<BasicMainWindow> window;
     ScriptedDialogs* dialogs{nullptr};
+
+    GraphicsView* planarView(quint32 scanId) const
+    {
+        for (QMdiSubWindow* sub : window->mdiArea()->subWindowList()) {
+            auto* planar = qobject_cast<MDIPlanarViewSubWindow*>(sub);
+            if (planar && planar->scanId() == scanId)
+                return planar->graphicsView();
+        }
+        return nullptr;
+    }
 
 private Q_SLOTS:
     void init()
@@ -377,6 +452,175 @@ private Q_SLOTS:
         QVERIFY(project.isViewOpen(0, BasicProject::PlanarView));
         window->mdiArea()->subWindowList().first()->close();
         QVERIFY(!project.isViewOpen(0, BasicProject::PlanarView));
+    }
+
+    // The other station gets a mark at the cell of its direction, with its name and distance;
+    // clearing its check box takes the mark away, setting it again brings it back.
+    void stationMarks()
+    {
+        QTemporaryDir dir;
+        QVERIFY(window->openProject(makeProject(dir)));
+        writePanorama(dir, QStringLiteral("a.jpg"));
+        window->openPlanarView(0);
+        GraphicsView* view = planarView(0);
+        QVERIFY(view);
+        const auto marks = itemsOf<InteractiveStationMark>(*view);
+        QCOMPARE(marks.size(), 1);
+        BasicProject& project = BasicProject::instance();
+        QCOMPARE(marks.first()->scanId(), 1u);
+        QCOMPARE(marks.first()->text(), project.scanName(1) + QStringLiteral("\ndistance: 5.025 m"));
+        QCOMPARE(marks.first()->size(), 24);
+        // Seen from the first station the second stands 3 m east, 4 m north and 0.5 m higher;
+        // horizontal angles grow clockwise over the 40 columns, the 30 rows span ±45°.
+        const double h = 2 * M_PI - std::acos(3.0 / 5.0);
+        const double v = std::asin(0.5 / std::sqrt(25.25));
+        QCOMPARE(marks.first()->pos(), QPointF(int(h / (2 * M_PI) * 40 + 0.5), int((0.5 - v / (M_PI / 2)) * 30 + 0.5)));
+
+        FileTreeModel& model = *project.treeModel();
+        QVERIFY(model.setData(model.indexOfScan(1), Qt::Unchecked, Qt::CheckStateRole));
+        QVERIFY(itemsOf<InteractiveStationMark>(*view).isEmpty());
+        QVERIFY(model.setData(model.indexOfScan(1), Qt::Checked, Qt::CheckStateRole));
+        QCOMPARE(itemsOf<InteractiveStationMark>(*view).size(), 1);
+    }
+
+    // One item of each kind drawn with the mouse is in the scan's annotation set, a dimensioning
+    // measures the scan's points, Delete takes an item out again, and after saving, closing and
+    // reopening the same items come back from the same file.
+    void annotationsRoundTrip()
+    {
+        QTemporaryDir dir;
+        const QString projectPath = makeProject(dir);
+        writePanorama(dir, QStringLiteral("a.jpg"));
+        QVERIFY(window->openProject(projectPath));
+        window->openPlanarView(0);
+        const PlanarUser user{planarView(0)};
+        QVERIFY(user.view);
+        window->resize(1400, 1000);
+        window->show();
+        window->mdiArea()->subWindowList().first()->showMaximized();
+        window->zoomAll();
+        const auto draw = [&](int subMode, const QList<QPointF>& clicks, bool finishByDoubleClick = false) {
+            window->graphicsViewModeChanged(1, subMode);
+            for (const QPointF& cell : clicks)
+                user.click(cell);
+            if (finishByDoubleClick)
+                user.doubleClick(clicks.last() + QPointF(0, 4));
+            QCoreApplication::sendPostedEvents();
+        };
+        draw(0, {{2.5, 2.5}, {8.5, 6.5}});
+        draw(1, {{12.5, 3.5}, {18.5, 3.5}}, true);
+        draw(2, {{22.5, 3.5}, {30.5, 9.5}});
+        draw(3, {{4.5, 20.5}});
+        QTest::keyClicks(user.view, QStringLiteral("Pump 3"));
+        draw(5, {{5.5, 12.5}, {20.5, 16.5}});
+        BasicProject& project = BasicProject::instance();
+        const auto records = project.sceneItems(0);
+        QCOMPARE(records->rowCount(), 5);
+        QVERIFY(project.isScanModified(0));
+
+        const auto dimensionings = itemsOf<InteractiveDimensioning>(*user.view);
+        QCOMPARE(dimensionings.size(), 1);
+        CellSample a;
+        CellSample b;
+        QVERIFY(project.cellSample(0, 5, 12, a) && project.cellSample(0, 20, 16, b));
+        QVERIFY(dimensionings.first()->isValueValid());
+        QVERIFY(std::abs(dimensionings.first()->value() - (a.point - b.point).length()) < 1e-9);
+        QCOMPARE(dimensionings.first()->labelText(),
+                 QStringLiteral("%1 m (3D)").arg((a.point - b.point).length(), 0, 'f', 3));
+
+        // The ellipse goes again: selected in edit mode, then Delete.
+        window->graphicsViewModeChanged(2, 0);
+        user.click({26.5, 6.5});
+        QTest::keyClick(user.view, Qt::Key_Delete);
+        QCOMPARE(records->rowCount(), 4);
+
+        QVERIFY(window->saveProject());
+        QVERIFY(!project.hasUnsavedChanges());
+        const QString annotationPath = dir.filePath(QStringLiteral("a-viewer.xml"));
+        const QByteArray saved = fileBytes(annotationPath);
+        QVERIFY(saved.contains("Pump 3"));
+        QList<int> types;
+        for (QGraphicsItem* item : user.view->scene()->items())
+            types << item->type();
+        std::sort(types.begin(), types.end());
+
+        QVERIFY(window->resetApplication());
+        QVERIFY(window->openProject(projectPath));
+        window->openPlanarView(0);
+        GraphicsView* reopened = planarView(0);
+        QVERIFY(reopened);
+        QList<int> reopenedTypes;
+        for (QGraphicsItem* item : reopened->scene()->items())
+            reopenedTypes << item->type();
+        std::sort(reopenedTypes.begin(), reopenedTypes.end());
+        QCOMPARE(reopenedTypes, types);
+        QCOMPARE(project.sceneItems(0)->rowCount(), 4);
+        project.setScanModified(0, true);
+        QVERIFY(window->saveProject());
+        QCOMPARE(fileBytes(annotationPath), saved);
+    }
+
+    // A damaged annotation file is reported when the view opens, and the next save keeps it
+    // beside the new one instead of overwriting what could not be read.
+    void damagedAnnotationFile()
+    {
+        QTemporaryDir dir;
+        const QString projectPath = makeProject(dir);
+        writePanorama(dir, QStringLiteral("b.jpg"));
+        QFile damaged(dir.filePath(QStringLiteral("b-viewer.xml")));
+        QVERIFY(damaged.open(QIODevice::WriteOnly));
+        damaged.write("<?xml version=\"1.0\"?>\n<viewerscene><polygonitem");
+        damaged.close();
+        QVERIFY(window->openProject(projectPath));
+        window->openPlanarView(1);
+        QVERIFY(planarView(1));
+        QVERIFY(dialogs->shown.value(0).startsWith(QStringLiteral("Error reading file: Parse error in file ")
+                                                   + QDir::toNativeSeparators(damaged.fileName()) + QStringLiteral(":\n\n")));
+        window->scanWasModified(1);
+        QVERIFY(window->saveProject());
+        QVERIFY(QFile::exists(damaged.fileName() + QStringLiteral(".unreadable")));
+    }
+
+    void contextMenuPerKind_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("entries");
+        const QString picking = QStringLiteral("Pick 3D Coordinates|Clear Picked Points from View|Clear Point List|-|");
+        const QString closing = QStringLiteral("Close Views of this Scan|Close Views of all other Scans|-");
+        const QString drawing = QStringLiteral("|Edit Elements|Add Polygon|Add Rectangle|Add Ellipse|Add Text|-|3D Distance|"
+                                               "Distance in XY|Delta Z|Detailed Distance Information|-");
+        QTest::newRow("planar") << 1
+                                << picking + QStringLiteral("Open Spherical View|Open Pointcloud View|") + closing + drawing;
+        QTest::newRow("spherical") << 2
+                                   << picking + QStringLiteral("Open Planar View|Open Pointcloud View|") + closing + drawing;
+        QTest::newRow("point cloud") << 3 << QStringLiteral("Open Planar View|Open Spherical View|") + closing;
+    }
+
+    void contextMenuPerKind()
+    {
+        QFETCH(int, kind);
+        QFETCH(QString, entries);
+        MenuWindow menuWindow;
+        QMenu* menu = menuWindow.buildContextMenu(MdiSubWindow::MdiSubWindowType(kind), 0);
+        QStringList texts;
+        for (QAction* action : menu->actions())
+            texts << (action->isSeparator() ? QStringLiteral("-") : action->text());
+        QCOMPARE(texts.join(QLatin1Char('|')), entries);
+        delete menu;
+    }
+
+    // "global/default_view_type" 0 follows the active sub window, planar without one; 1 is planar.
+    void preferredView()
+    {
+        QTemporaryDir dir;
+        QVERIFY(window->openProject(makeProject(dir)));
+        writePanorama(dir, QStringLiteral("a.jpg"));
+        writePanorama(dir, QStringLiteral("b.jpg"));
+        window->openViewWithPreferredStyle(0);
+        QVERIFY(planarView(0));
+        QSettings().setValue(QStringLiteral("global/default_view_type"), 1);
+        window->openViewWithPreferredStyle(1);
+        QVERIFY(planarView(1));
     }
 
     void messagesFromOtherInstances()

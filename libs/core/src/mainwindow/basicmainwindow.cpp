@@ -10,13 +10,18 @@
 #include "mainwindow/logtableview.h"
 #include "mainwindow/mdicontextmenu.h"
 #include "mainwindow/mdiplanarviewsubwindow.h"
+#include "mainwindow/planarviewcontent.h"
 #include "mainwindow/pointinfotablemodel.h"
 #include "mainwindow/pointinfotableviewwidget.h"
 #include "mainwindow/recentprojectlist.h"
 #include "mainwindow/userdialogs.h"
 #include "fileio/tvxfilescaninfo.h"
+#include "annotations/sceneitemstablemodel.h"
 #include "planarview/graphicsview.h"
+#include "planarview/interactivedimensioning.h"
+#include "planarview/interactivegraphicsitemevent.h"
 #include "planarview/lenswidget.h"
+#include "planarview/notifyevent.h"
 #include "fileio/tvxfile.h"
 #include "project/basicproject.h"
 #include "project/filetreemodel.h"
@@ -43,6 +48,7 @@
 #include <QToolBar>
 
 #include <algorithm>
+#include <cmath>
 
 Q_LOGGING_CATEGORY(lcMainWindow, "tvx.mainwindow", QtInfoMsg)
 
@@ -765,12 +771,17 @@ void BasicMainWindow::openPlanarView(quint32 scanId)
     connect(view, &GraphicsView::qsig_UpdateLens, this, &BasicMainWindow::updateLens);
     connect(view, &GraphicsView::signalLMBClick, this, &BasicMainWindow::pointSelectionInPlanarView);
     connect(view, &GraphicsView::signalRemovePointFromLMBClick, this, &BasicMainWindow::removeLastPointFromList);
+    connect(view, &GraphicsView::signalAreaSelected, this, &BasicMainWindow::areaSelectionInPlanarView);
+    connect(view, &GraphicsView::signalSceneElementAdded, this, &BasicMainWindow::sceneElementAdded);
+    connect(view, &GraphicsView::signalSceneElementAboutToBeRemoved, this, &BasicMainWindow::sceneElementAboutToBeRemoved);
     connect(view, &GraphicsView::signalDBLClickScanPositionPlanarView, this, &BasicMainWindow::openViewWithPreferredStyle);
     connect(this, &BasicMainWindow::graphicsViewModeChanged, view, &GraphicsView::graphicsViewModeChanged);
     connect(this, &BasicMainWindow::cursorContextChanged, view, &GraphicsView::cursorContextChanged);
     connect(this, &BasicMainWindow::clearPickedPointMarks, view, &GraphicsView::removeAndDeleteAllPickedPointItems);
 
     p.setViewOpen(scanId, BasicProject::PlanarView, true);
+    placeStationMarks(view);
+    PlanarViewContent::addReferencePoints(p, *view);
     sub->show();
     sub->fit();
     loadAnnotationsForPlanarView(scanId);
@@ -853,11 +864,56 @@ void BasicMainWindow::mdiWindowAboutToClosed(quint32, MdiSubWindow::MdiSubWindow
     d->subWindowUnderMouse.clear();
 }
 
-void BasicMainWindow::loadAnnotationsForPlanarView(quint32) {}
+bool BasicMainWindow::reportAnnotationLoad(quint32 scanId)
+{
+    BasicProject& p = project();
+    QString error;
+    if (p.loadAnnotations(scanId, error))
+        return true;
+    const QString path = p.annotationFilePath(scanId);
+    warn(tr("Error reading file"), tr("Parse error in file %1:\n\n%2").arg(path, error));
+    return false;
+}
+
+void BasicMainWindow::loadAnnotationsForPlanarView(quint32 scanId)
+{
+    auto* sub = qobject_cast<MDIPlanarViewSubWindow*>(findSubWindow(scanId, MdiSubWindow::PlanarView));
+    if (!sub)
+        return;
+    if (!project().sceneItems(scanId)) {
+        warn(tr("Internal Error"), tr("No scene information for scan found."));
+        return;
+    }
+    reportAnnotationLoad(scanId);
+    PlanarViewContent::addAnnotationItems(project(), *sub->graphicsView());
+}
 
 bool BasicMainWindow::saveAnnotationsForAllOpenPlanarViews()
 {
-    return true;
+    BasicProject& p = project();
+    const QList<quint32> modified = p.scansWithModifiedAnnotations();
+    if (modified.isEmpty())
+        return true;
+    if (p.isReadOnly()) {
+        d->dialogs->information(tr("Read-only project"),
+                                tr("Changes could not be saved, because the project was opened in read-only mode."));
+        return false;
+    }
+    QString failed;
+    for (const quint32 scanId : modified) {
+        QString error;
+        if (p.saveAnnotations(scanId, error)) {
+            log(LogTableModel::Information, tr("Annotations saved to %1.").arg(p.annotationFilePath(scanId)));
+            continue;
+        }
+        log(LogTableModel::Error, tr("Annotations not saved to %1: %2").arg(p.annotationFilePath(scanId), error));
+        failed += tr("   %1\n").arg(p.annotationFilePath(scanId));
+    }
+    setWindowModified(p.hasUnsavedChanges());
+    if (failed.isEmpty())
+        return true;
+    d->dialogs->warning(tr("Error writing files"), tr("Could not write the following files:\n") + failed);
+    return false;
 }
 
 void BasicMainWindow::disableInteractiveLensMode() {}
@@ -867,7 +923,24 @@ void BasicMainWindow::clear_picked_point_items()
     Q_EMIT clearPickedPointMarks();
 }
 
-void BasicMainWindow::projectTreeScanCheckBoxChanged() {}
+void BasicMainWindow::placeStationMarks(GraphicsView* view)
+{
+    if (QSettings().value(QStringLiteral("global/showStationMarks"), true).toBool())
+        PlanarViewContent::addStationMarks(project(), *view);
+}
+
+void BasicMainWindow::projectTreeScanCheckBoxChanged()
+{
+    for (QMdiSubWindow* window : d->mdiArea->subWindowList()) {
+        auto* planar = qobject_cast<MDIPlanarViewSubWindow*>(window);
+        if (!planar)
+            continue;
+        GraphicsView* view = planar->graphicsView();
+        view->removeAndDeleteAllInteractiveStationMarks();
+        placeStationMarks(view);
+        view->viewport()->update();
+    }
+}
 
 void BasicMainWindow::clearPickedPointsFromView()
 {
@@ -895,6 +968,45 @@ void BasicMainWindow::scanWasModified(quint32 scanId)
 {
     project().setScanModified(scanId, true);
     setWindowModified(true);
+}
+
+void BasicMainWindow::areaSelectionInPlanarView(quint32 scanId, InteractiveGraphicsItem* area)
+{
+    if (!area)
+        return;
+    const QRectF box = area->sceneBoundingRect();
+    log(LogTableModel::Information, tr("Area selected in %1: columns %2 to %3, rows %4 to %5.")
+                                        .arg(project().scanName(scanId))
+                                        .arg(qint64(box.left()))
+                                        .arg(qint64(box.right()))
+                                        .arg(qint64(box.top()))
+                                        .arg(qint64(box.bottom())));
+}
+
+void BasicMainWindow::sceneElementAdded(quint32 scanId, InteractiveGraphicsItem* item)
+{
+    const auto records = project().sceneItems(scanId);
+    if (!item || !records || !item->record())
+        return;
+    records->addItem(item->record());
+    scanWasModified(scanId);
+}
+
+void BasicMainWindow::sceneElementAboutToBeRemoved(quint32 scanId, InteractiveGraphicsItem* item)
+{
+    if (!item)
+        return;
+    if (const auto records = project().sceneItems(scanId)) {
+        const auto& rows = records->items();
+        const auto it = std::find(rows.begin(), rows.end(), item->record());
+        if (it != rows.end())
+            records->removeRows(int(it - rows.begin()), 1);
+    }
+    if (GraphicsView* view = item->view())
+        view->removeGaphicsItem(item);
+    delete item;
+    scanWasModified(scanId);
+    setProjectIsModified();
 }
 
 // ---- interaction modes -------------------------------------------------------------------------
@@ -1088,6 +1200,53 @@ void BasicMainWindow::keyReleaseEvent(QKeyEvent* event)
 {
     forwardKey(event, false);
     QMainWindow::keyReleaseEvent(event);
+}
+
+void BasicMainWindow::customEvent(QEvent* event)
+{
+    if (event->type() == InteractiveGraphicsItemEvent::EventType) {
+        updateDimensioningInfoForGraphicsItem(static_cast<InteractiveGraphicsItemEvent*>(event)->item());
+    } else if (event->type() == NotifyEvent::EventType) {
+        const quint32 scanId = static_cast<NotifyEvent*>(event)->scanId();
+        if (project().scanIndex(scanId) >= 0) {
+            scanWasModified(scanId);
+            setProjectIsModified();
+        }
+    } else {
+        QMainWindow::customEvent(event);
+    }
+}
+
+void BasicMainWindow::updateDimensioningInfoForGraphicsItem(InteractiveGraphicsItem* item)
+{
+    auto* dimensioning = qobject_cast<InteractiveDimensioning*>(item);
+    if (!dimensioning)
+        return;
+    // The item's own view names its scan; the active sub window only stands in for an item
+    // without a view, so that items measured after loading use their own scan's grid.
+    quint32 scanId = 0;
+    if (GraphicsView* view = dimensioning->view()) {
+        scanId = view->scanId();
+    } else if (auto* active = qobject_cast<MDIPlanarViewSubWindow*>(d->mdiArea->activeSubWindow())) {
+        scanId = active->scanId();
+    } else {
+        dimensioning->setValue(0.0, false);
+        return;
+    }
+    BasicProject& p = project();
+    const QPointF a = dimensioning->pointA() + dimensioning->scenePos();
+    const QPointF b = dimensioning->pointB() + dimensioning->scenePos();
+    CellSample first;
+    CellSample second;
+    ScanPose pose;
+    if (p.scanIndex(scanId) < 0 || !p.scanPose(scanId, pose)
+        || !p.cellSample(scanId, qint32(std::trunc(a.x())), qint32(std::trunc(a.y())), first) || !first.valid
+        || !p.cellSample(scanId, qint32(std::trunc(b.x())), qint32(std::trunc(b.y())), second) || !second.valid) {
+        dimensioning->setValue(0.0, false);
+        return;
+    }
+    dimensioning->setValue(
+        dimensioningDistance(dimensioning->dimensioningType(), first.point, second.point, pose.rotation), true);
 }
 
 } // namespace TVX::CORE

@@ -13,6 +13,8 @@ class QMdiArea;
 namespace TVX::CORE {
 
 class FileTreeView;
+class GraphicsView;
+class InteractiveGraphicsItem;
 class LogTableModel;
 class MDIContextMenu;
 class PointInfoTableViewWidget;
@@ -83,10 +85,17 @@ public Q_SLOTS:
     void initDrawEllipseMode();
     void initDrawTextMode();
     void initPlaceDimensioningMode(int type);
+    // Measures a planar dimensioning on its scan's grid and hands it the value.
+    void updateDimensioningInfoForGraphicsItem(TVX::CORE::InteractiveGraphicsItem* item);
     void showCompleteDimensioningInfo();
     void zoomAll();
     void setProjectIsModified();
     void scanWasModified(quint32 scanId);
+    virtual void areaSelectionInPlanarView(quint32 scanId, TVX::CORE::InteractiveGraphicsItem* area);
+    // A finished item's record joins the scan's annotation set.
+    virtual void sceneElementAdded(quint32 scanId, TVX::CORE::InteractiveGraphicsItem* item);
+    // The item's record leaves the annotation set and the item is deleted.
+    virtual void sceneElementAboutToBeRemoved(quint32 scanId, TVX::CORE::InteractiveGraphicsItem* item);
     void removeLastPointFromList(quint32 scanId, qint32 column, qint32 row);
     virtual void mdiWindowAboutToClosed(quint32 scanId, TVX::CORE::MdiSubWindow::MdiSubWindowType kind);
     void showColumnAndRowInStatusLine(QPoint position);
@@ -113,6 +122,9 @@ protected:
 
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+    void customEvent(QEvent* event) override;
+    // Shows a failed read of a scan's annotation file; true when it was read.
+    bool reportAnnotationLoad(quint32 scanId);
 
 private:
     void createCentralAreaAndDocks();
@@ -125,6 +137,7 @@ private:
     void setMode(quint32 operatorId, int mode, int subMode);
     void forwardKey(QKeyEvent* event, bool press);
     void closeViews(quint32 scanId, bool ofThisScan);
+    void placeStationMarks(GraphicsView* view);
 
     struct Private;
     std::unique_ptr<Private> d;

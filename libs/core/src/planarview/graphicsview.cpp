@@ -1,8 +1,11 @@
 #include "planarview/graphicsview.h"
 
 #include "planarview/interactivegraphicsitem.h"
+#include "planarview/interactiverefpoint.h"
+#include "planarview/interactivestationmark.h"
 #include "planarview/notifyevent.h"
 #include "planarview/pickedpointgfxitem.h"
+#include "planarview/planaritemfactory.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -66,6 +69,7 @@ GraphicsView::GraphicsView(quint32 scanId, QWidget* parent) : QGraphicsView(pare
 {
     qRegisterMetaType<InteractiveGraphicsItem*>();
     d->scanId = scanId;
+    d->factory = &PlanarItemFactory::createItemForSubMode;
     setTransformationAnchor(QGraphicsView::AnchorUnderMouse);
     setViewportUpdateMode(QGraphicsView::FullViewportUpdate);
     setMouseTracking(true);
@@ -189,39 +193,53 @@ void GraphicsView::removeGaphicsItem(InteractiveGraphicsItem* item)
         scene()->removeItem(item);
 }
 
-void GraphicsView::removeAndDeleteAllGaphicsItems()
+void GraphicsView::removeAndDelete(const std::function<bool(QGraphicsItem*)>& doomed)
 {
     endSelectionAndConstruction();
     if (!scene())
         return;
     const QList<QGraphicsItem*> items = scene()->items();
     for (QGraphicsItem* item : items) {
-        auto* interactive = dynamic_cast<InteractiveGraphicsItem*>(item);
-        if (interactive && item->type() != RefPointType && item->type() != StationMarkType) {
+        // Children go with their parents.
+        if (!item->parentItem() && doomed(item)) {
             scene()->removeItem(item);
             delete item;
         }
     }
+}
+
+void GraphicsView::removeAndDeleteAllGaphicsItems()
+{
+    removeAndDelete([](QGraphicsItem* item) {
+        return dynamic_cast<InteractiveGraphicsItem*>(item) && item->type() != RefPointType
+               && item->type() != StationMarkType;
+    });
 }
 
 void GraphicsView::removeAndDeleteAllPickedPointItems()
 {
-    endSelectionAndConstruction();
-    if (!scene())
-        return;
-    const QList<QGraphicsItem*> items = scene()->items();
-    for (QGraphicsItem* item : items) {
-        if (item->type() == PickedPointGFXItem::Type) {
-            scene()->removeItem(item);
-            delete item;
-        }
-    }
+    removeAndDelete([](QGraphicsItem* item) { return item->type() == PickedPointGFXItem::Type; });
+}
+
+void GraphicsView::removeAndDeleteAllInteractiveStationMarks()
+{
+    removeAndDelete([](QGraphicsItem* item) { return item->type() == StationMarkType; });
+}
+
+void GraphicsView::removeReferenceItem(QString refId)
+{
+    removeAndDelete([&refId](QGraphicsItem* item) {
+        return item->type() == RefPointType && static_cast<InteractiveRefPoint*>(item)->referenceName() == refId;
+    });
 }
 
 InteractiveGraphicsItem* GraphicsView::topInteractiveItem(const QPoint& viewPos) const
 {
+    // Marks of stations and reference points are not edited, so they never hide the annotation
+    // items under their labels.
     for (QGraphicsItem* item : items(viewPos)) {
-        if (auto* interactive = dynamic_cast<InteractiveGraphicsItem*>(item))
+        auto* interactive = dynamic_cast<InteractiveGraphicsItem*>(item);
+        if (interactive && interactive->flags().testFlag(QGraphicsItem::ItemIsSelectable))
             return interactive;
     }
     return nullptr;
@@ -435,6 +453,12 @@ void GraphicsView::finishConstruction()
     InteractiveGraphicsItem* item = d->underConstruction;
     d->creationState = 0;
     d->underConstruction.clear();
+    // A placed text is typed into at once.
+    if (isText(item) && scene()) {
+        d->selected = item;
+        scene()->setFocusItem(item, Qt::OtherFocusReason);
+        item->grabKeyboard();
+    }
     Q_EMIT signalSceneElementAdded(d->scanId, item);
     notifyMainWindows();
 }
@@ -480,7 +504,9 @@ void GraphicsView::mouseDoubleClickEvent(QMouseEvent* event)
     const QPointF& at = d->cursorScenePos;
     if (d->mode == PickPoint && scene()) {
         const QList<QGraphicsItem*> hit = items(event->position().toPoint());
-        if (!hit.isEmpty() && hit.first()->type() == PickedPointGFXItem::Type) {
+        if (!hit.isEmpty() && hit.first()->type() == StationMarkType) {
+            Q_EMIT signalDBLClickScanPositionPlanarView(static_cast<InteractiveStationMark*>(hit.first())->scanId());
+        } else if (!hit.isEmpty() && hit.first()->type() == PickedPointGFXItem::Type) {
             QGraphicsItem* mark = hit.first();
             scene()->removeItem(mark);
             delete mark;

@@ -35,7 +35,7 @@ public:
         StationMarkType,
     };
     // Makes the item of a create sub-mode (0 rectangle … 7 dimensioning XY); null when the kind is
-    // not available.
+    // not available. The planar item factory by default; tests put their own items in.
     using ItemFactory = std::function<InteractiveGraphicsItem*(int subMode)>;
 
     GraphicsView(quint32 scanId, QWidget* parent = nullptr);
@@ -65,6 +65,8 @@ public Q_SLOTS:
     void removeGaphicsItem(TVX::CORE::InteractiveGraphicsItem* item);
     void removeAndDeleteAllGaphicsItems();
     void removeAndDeleteAllPickedPointItems();
+    void removeAndDeleteAllInteractiveStationMarks();
+    void removeReferenceItem(QString refId);
 
 protected:
     void wheelEvent(QWheelEvent* event) override;
@@ -84,6 +86,8 @@ private:
     void finishConstruction();
     void applyCursor();
     InteractiveGraphicsItem* topInteractiveItem(const QPoint& viewPos) const;
+    // Takes out and deletes every item for which `doomed` is true.
+    void removeAndDelete(const std::function<bool(QGraphicsItem*)>& doomed);
 
     struct Private;
     std::unique_ptr<Private> d;

@@ -3,6 +3,8 @@
 #include "scene/tvxsceneitem.h"
 
 #include <QBrush>
+#include <QPainterPath>
+#include <QVector>
 #include <QGraphicsObject>
 #include <QPointer>
 
@@ -49,6 +51,16 @@ public:
 
     // The fill of an area item: translucent green when highlighted, translucent blue otherwise.
     static QBrush highlightBrush(bool highlighted);
+
+protected:
+    // Draws a path so that it shows on any photo: a dark line under a bright one, both a fixed
+    // number of screen pixels wide.
+    static void strokeOutline(QPainter* painter, const QPainterPath& path);
+    // The handle squares of a selected item at its shape points (item coordinates).
+    void paintHandles(QPainter* painter, const QVector<QPointF>& points) const;
+    // Half a handle square in scene units under the view's transform (a cell without a view), for
+    // bounding rectangles that must hold the handles and the screen-wide pens.
+    double handleMargin() const;
 
 private:
     struct Private;

@@ -30,4 +30,10 @@ QPointF TVXSDimensioning::second() const
     return d->second;
 }
 
+void TVXSDimensioning::setPoints(const QPointF& first, const QPointF& second)
+{
+    d->first = first;
+    d->second = second;
+}
+
 } // namespace TVX::CORE

@@ -17,6 +17,7 @@ public:
     quint32 type() const;
     QPointF first() const;
     QPointF second() const;
+    void setPoints(const QPointF& first, const QPointF& second);
 
 private:
     struct Data;

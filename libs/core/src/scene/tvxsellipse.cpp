@@ -18,4 +18,9 @@ QRectF TVXSEllipse::rectangle() const
     return d->boundingRectangle;
 }
 
+void TVXSEllipse::setRectangle(const QRectF& boundingRectangle)
+{
+    d->boundingRectangle = boundingRectangle;
+}
+
 } // namespace TVX::CORE

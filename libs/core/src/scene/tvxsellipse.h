@@ -14,6 +14,7 @@ public:
 
     quint32 kind() const override { return Ellipse; }
     QRectF rectangle() const; // the bounding rectangle
+    void setRectangle(const QRectF& boundingRectangle);
 
 private:
     struct Data;

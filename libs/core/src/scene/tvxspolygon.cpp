@@ -18,4 +18,9 @@ QPolygonF TVXSPolygon::polygon() const
     return d->polygon;
 }
 
+void TVXSPolygon::setPolygon(const QPolygonF& polygon)
+{
+    d->polygon = polygon;
+}
+
 } // namespace TVX::CORE

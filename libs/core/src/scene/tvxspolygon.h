@@ -14,6 +14,7 @@ public:
 
     quint32 kind() const override { return Polygon; }
     QPolygonF polygon() const;
+    void setPolygon(const QPolygonF& polygon);
 
 private:
     struct Data;

@@ -18,4 +18,9 @@ QRectF TVXSRectangle::rectangle() const
     return d->rectangle;
 }
 
+void TVXSRectangle::setRectangle(const QRectF& rectangle)
+{
+    d->rectangle = rectangle;
+}
+
 } // namespace TVX::CORE

@@ -14,6 +14,7 @@ public:
 
     quint32 kind() const override { return Rectangle; }
     QRectF rectangle() const;
+    void setRectangle(const QRectF& rectangle);
 
 private:
     struct Data;

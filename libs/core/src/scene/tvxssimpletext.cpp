@@ -30,4 +30,14 @@ QPointF TVXSSimpleText::offset() const
     return d->offset;
 }
 
+void TVXSSimpleText::setText(const QString& text)
+{
+    d->text = text;
+}
+
+void TVXSSimpleText::setPosition(const QPointF& position)
+{
+    d->position = position;
+}
+
 } // namespace TVX::CORE

@@ -16,6 +16,8 @@ public:
     QString text() const;
     QPointF position() const; // the anchor
     QPointF offset() const;   // of the label from the anchor
+    void setText(const QString& text);
+    void setPosition(const QPointF& position);
 
 private:
     struct Data;
