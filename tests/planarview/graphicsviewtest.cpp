@@ -1,5 +1,7 @@
 #include "testregistry.h"
 
+#include "planarviewfixture.h"
+
 #include "planarview/graphicsview.h"
 #include "planarview/interactivegraphicsitem.h"
 #include "planarview/panoramaitem.h"
@@ -14,6 +16,7 @@
 #include <cmath>
 
 using namespace TVX::CORE;
+using TVX::TEST::Fixture;
 
 namespace {
 
@@ -49,31 +52,6 @@ public:
 
 private:
     int m_needed;
-};
-
-struct Fixture {
-    QGraphicsScene scene{QRectF(0, 0, 400, 200)};
-    GraphicsView view{7};
-
-    Fixture()
-    {
-        view.setScene(&scene);
-        view.resize(420, 220);
-        // Four pixels per cell, so that quarter cells map onto whole pixels and back.
-        view.setTransform(QTransform::fromScale(4, 4));
-        view.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&view));
-        view.centerOn(100, 50);
-    }
-
-    QPoint at(double x, double y) const { return view.mapFromScene(QPointF(x, y)); }
-    // Sent directly: the platform's cursor may already stand at the position.
-    void move(const QPoint& p)
-    {
-        QMouseEvent event(QEvent::MouseMove, QPointF(p), view.viewport()->mapToGlobal(QPointF(p)), Qt::NoButton,
-                          Qt::NoButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(view.viewport(), &event);
-    }
 };
 
 } // namespace

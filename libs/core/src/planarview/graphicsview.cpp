@@ -34,6 +34,11 @@ bool isText(const QGraphicsItem* item)
     return item && item->type() == GraphicsView::TextType;
 }
 
+bool isStationMark(const QGraphicsItem* item)
+{
+    return item && item->type() == GraphicsView::StationMarkType;
+}
+
 bool isArea(const QGraphicsItem* item)
 {
     return item
@@ -233,6 +238,12 @@ void GraphicsView::removeReferenceItem(QString refId)
     });
 }
 
+bool GraphicsView::isStationMarkAt(const QPoint& viewPos) const
+{
+    const QList<QGraphicsItem*> hit = items(viewPos);
+    return !hit.isEmpty() && isStationMark(hit.first());
+}
+
 InteractiveGraphicsItem* GraphicsView::topInteractiveItem(const QPoint& viewPos) const
 {
     // Marks of stations and reference points are not edited, so they never hide the annotation
@@ -299,7 +310,9 @@ void GraphicsView::mousePressEvent(QMouseEvent* event)
     const QPointF& at = d->cursorScenePos;
     switch (d->mode) {
     case PickPoint:
-        if (left && scene()) {
+        // A press on a station mark is the first half of a double click that opens its scan, not a
+        // pick: its pick mark would cover the station mark for the second half.
+        if (left && scene() && !isStationMarkAt(event->position().toPoint())) {
             scene()->addItem(new PickedPointGFXItem(at, this));
             Q_EMIT signalLMBClick(d->scanId, cellOf(at.x()), cellOf(at.y()));
         }
@@ -504,7 +517,7 @@ void GraphicsView::mouseDoubleClickEvent(QMouseEvent* event)
     const QPointF& at = d->cursorScenePos;
     if (d->mode == PickPoint && scene()) {
         const QList<QGraphicsItem*> hit = items(event->position().toPoint());
-        if (!hit.isEmpty() && hit.first()->type() == StationMarkType) {
+        if (!hit.isEmpty() && isStationMark(hit.first())) {
             Q_EMIT signalDBLClickScanPositionPlanarView(static_cast<InteractiveStationMark*>(hit.first())->scanId());
         } else if (!hit.isEmpty() && hit.first()->type() == PickedPointGFXItem::Type) {
             QGraphicsItem* mark = hit.first();

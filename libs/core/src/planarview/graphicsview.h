@@ -86,6 +86,7 @@ private:
     void finishConstruction();
     void applyCursor();
     InteractiveGraphicsItem* topInteractiveItem(const QPoint& viewPos) const;
+    bool isStationMarkAt(const QPoint& viewPos) const;
     // Takes out and deletes every item for which `doomed` is true.
     void removeAndDelete(const std::function<bool(QGraphicsItem*)>& doomed);
 
