@@ -8,9 +8,29 @@
 #include <QMainWindow>
 #include <QPainter>
 #include <QPainterPathStroker>
-#include <QPen>
 
 namespace TVX::CORE {
+
+namespace {
+
+// The label on a dark plate, so that it reads on any photo.
+class LabelItem final : public QGraphicsSimpleTextItem
+{
+public:
+    using QGraphicsSimpleTextItem::QGraphicsSimpleTextItem;
+
+    QRectF boundingRect() const override { return QGraphicsSimpleTextItem::boundingRect().adjusted(-3, -1, 3, 1); }
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override
+    {
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(QColor(0, 0, 0, 160));
+        painter->drawRoundedRect(boundingRect(), 3, 3);
+        QGraphicsSimpleTextItem::paint(painter, option, widget);
+    }
+};
+
+} // namespace
 
 struct InteractiveDimensioning::Private {
     std::shared_ptr<TVXSDimensioning> record;
@@ -35,12 +55,10 @@ InteractiveDimensioning::InteractiveDimensioning(quint32 type, const QPointF& po
     d->record = std::make_shared<TVXSDimensioning>(type, pointA, pointB);
     setRecord(d->record);
     setFlags(ItemIsSelectable);
-    d->label = new QGraphicsSimpleTextItem(this);
+    setZValue(2); // over the area items it measures
+    d->label = new LabelItem(this);
     d->label->setFlag(ItemIgnoresTransformations);
     d->label->setBrush(QColor(255, 240, 60));
-    QPen outline(QColor(0, 0, 0, 220), 2.5);
-    outline.setCosmetic(true);
-    d->label->setPen(outline);
     QFont font = d->label->font();
     font.setBold(true);
     d->label->setFont(font);

@@ -28,6 +28,7 @@ InteractiveText::InteractiveText(std::shared_ptr<TVXSSimpleText> record, QGraphi
     setRecord(d->record);
     setFlags(ItemIsSelectable | ItemIsMovable | ItemIsFocusable);
     setPos(d->record->position());
+    setZValue(3);
     d->body = new MyQGraphicsTextItem(d->record->text(), this);
     d->body->setPos(d->record->offset());
     d->body->setVisible(d->placed);
