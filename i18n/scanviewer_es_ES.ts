@@ -2,9 +2,570 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES">
 <context>
+    <name>TVX::CORE::BasicMainWindow</name>
+    <message>
+        <location filename="../libs/core/src/mainwindow/basicmainwindow.cpp" line="+214"/>
+        <source>Project</source>
+        <translation>Proyecto</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Lens</source>
+        <translation>Lupa</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Point Information</source>
+        <translation>Información del punto</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Report</source>
+        <translation>Informe</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Open Project</source>
+        <translation>Abrir proyecto</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Save Project</source>
+        <translation>Guardar proyecto</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>E&amp;xit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Pick 3D Coordinates</source>
+        <translation>Capturar coordenadas 3D</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Clear Point List</source>
+        <translation>Vaciar lista de puntos</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Clear Picked Points from View</source>
+        <translation>Quitar los puntos capturados de la vista</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Edit Elements</source>
+        <translation>Editar elementos</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Zoom In</source>
+        <translation>Acercar</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Zoom Out</source>
+        <translation>Alejar</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Zoom All</source>
+        <translation>Ver todo</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Cascade Windows</source>
+        <translation>Ventanas en cascada</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cascade all Mdi Windows</source>
+        <translation>Organizar todas las ventanas MDI en cascada</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Tile Windows</source>
+        <translation>Ventanas en mosaico</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Tile all Mdi Windows</source>
+        <translation>Organizar todas las ventanas MDI en mosaico</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Close All Windows</source>
+        <translation>Cerrar todas las ventanas</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Close all Mdi Windows</source>
+        <translation>Cerrar todas las ventanas MDI</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Add Polygon</source>
+        <translation>Añadir polígono</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Add Rectangle</source>
+        <translation>Añadir rectángulo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Add Ellipse</source>
+        <translation>Añadir elipse</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Add Text</source>
+        <translation>Añadir texto</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>3D Distance</source>
+        <translation>Distancia 3D</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Distance in XY</source>
+        <translation>Distancia en XY</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Delta Z</source>
+        <translation>Delta Z</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Detailed Distance Information</source>
+        <translation>Información detallada de distancia</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Undo Clear Point List</source>
+        <translation>Deshacer el vaciado de la lista de puntos</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <source>File Operations</source>
+        <translation>Operaciones de archivo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Zoom Operations</source>
+        <translation>Operaciones de zoom</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Drawing Tools</source>
+        <translation>Herramientas de dibujo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Measurement Tools</source>
+        <translation>Herramientas de medición</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Point-based Operations</source>
+        <translation>Operaciones con puntos</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Recently Opened Files</source>
+        <translation>Archivos abiertos recientemente</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Toolbars</source>
+        <translation>Barras de herramientas</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Windows</source>
+        <translation>Ventanas</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>&amp;Windows</source>
+        <translation>&amp;Ventanas</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <location line="+71"/>
+        <location line="+125"/>
+        <location line="+325"/>
+        <source>Read-only project</source>
+        <translation>Proyecto de solo lectura</translation>
+    </message>
+    <message>
+        <location line="-449"/>
+        <location line="+125"/>
+        <location line="+325"/>
+        <source>Changes could not be saved, because the project was opened in read-only mode.</source>
+        <translation>No se pudieron guardar los cambios porque el proyecto se abrió en modo de solo lectura.</translation>
+    </message>
+    <message>
+        <location line="-446"/>
+        <source>Save Changes?</source>
+        <translation>¿Guardar los cambios?</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Changes where made to one or more views. Should they be stored permanently?</source>
+        <translation>Se han realizado cambios en una o más vistas. ¿Deben guardarse de forma permanente?</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <location line="+111"/>
+        <source>File IO Error</source>
+        <translation>Error de E/S de archivo</translation>
+    </message>
+    <message>
+        <location line="-111"/>
+        <source>An error occurred during saving the changes permanently. Try again?</source>
+        <translation>Se produjo un error al guardar los cambios de forma permanente. ¿Intentarlo de nuevo?</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>Select Project File</source>
+        <translation>Seleccionar archivo de proyecto</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Tarvenix Project File (*.tvxprj)</source>
+        <translation>Archivo de proyecto de Tarvenix (*.tvxprj)</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <location line="+43"/>
+        <location line="+6"/>
+        <source>Could Not Open Project Directory</source>
+        <translation>No se pudo abrir el directorio del proyecto</translation>
+    </message>
+    <message>
+        <location line="-48"/>
+        <source>The project directory %1 does not exist.</source>
+        <translation>El directorio del proyecto %1 no existe.</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Warning: Old Project File Version</source>
+        <translation>Advertencia: versión antigua del archivo de proyecto</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Project %1 opened%2.</source>
+        <translation>Proyecto %1 abierto%2.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source> read-only</source>
+        <translation> en solo lectura</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Scan not readable: %1</source>
+        <translation>Escaneo no legible: %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Scans Could Not Be Read</source>
+        <translation>No se pudieron leer los escaneos</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The following scans of the project could not be read and are not shown:
+
+%1</source>
+        <translation>Los siguientes escaneos del proyecto no se pudieron leer y no se muestran:
+
+%1</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>The lock file %1 could not be deleted.</source>
+        <translation>No se pudo eliminar el archivo de bloqueo %1.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Lock file %1 deleted by the user.</source>
+        <translation>Archivo de bloqueo %1 eliminado por el usuario.</translation>
+    </message>
+    <message>
+        <location line="+34"/>
+        <source>Project %1 saved.</source>
+        <translation>Proyecto %1 guardado.</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Could Not Close Project</source>
+        <translation>No se pudo cerrar el proyecto</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Tarvenix Viewer</source>
+        <translation>Tarvenix Viewer</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Tarvenix Viewer: %1[*]</source>
+        <translation>Tarvenix Viewer: %1[*]</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <location line="+16"/>
+        <source>Add Scans</source>
+        <translation>Añadir escaneos</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>Scan Files (*.tvx)</source>
+        <translation>Archivos de escaneo (*.tvx)</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Scan %1 added.</source>
+        <translation>Escaneo %1 añadido.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>These scans could not be added:
+
+%1</source>
+        <translation>No se pudieron añadir estos escaneos:
+
+%1</translation>
+    </message>
+    <message>
+        <location line="+75"/>
+        <source>Open Planar View</source>
+        <translation>Abrir vista plana</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Open Spherical View</source>
+        <translation>Abrir vista esférica</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Open Pointcloud View</source>
+        <translation>Abrir vista de nube de puntos</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Close Views of this Scan</source>
+        <translation>Cerrar las vistas de este escaneo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Close Views of all other Scans</source>
+        <translation>Cerrar las vistas de todos los demás escaneos</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>The panorama %1 cannot be read.</source>
+        <translation>No se puede leer el panorama %1.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Open a new View Failed</source>
+        <translation>No se pudo abrir una nueva vista</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Tarvenix was unable to open a new scan view. Please close some other views and try again.</source>
+        <translation>Tarvenix no pudo abrir una nueva vista del escaneo. Cierre algunas otras vistas e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Planar View: </source>
+        <translation>Vista plana: </translation>
+    </message>
+    <message>
+        <location line="+38"/>
+        <source>Spherical views are not available in this version (scan %1).</source>
+        <translation>Las vistas esféricas no están disponibles en esta versión (escaneo %1).</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Point cloud views are not available in this version (scan %1).</source>
+        <translation>Las vistas de nube de puntos no están disponibles en esta versión (escaneo %1).</translation>
+    </message>
+    <message>
+        <location line="+68"/>
+        <source>Error reading file</source>
+        <translation>Error al leer el archivo</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Parse error in file %1:
+
+%2</source>
+        <translation>Error de análisis en el archivo %1:
+
+%2</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Internal Error</source>
+        <translation>Error interno</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>No scene information for scan found.</source>
+        <translation>No se encontró información de escena para el escaneo.</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Annotations saved to %1.</source>
+        <translation>Anotaciones guardadas en %1.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Annotations not saved to %1: %2</source>
+        <translation>Anotaciones no guardadas en %1: %2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>   %1
+</source>
+        <translation>   %1
+</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Error writing files</source>
+        <translation>Error al escribir archivos</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Could not write the following files:
+</source>
+        <translation>No se pudieron escribir los siguientes archivos:
+</translation>
+    </message>
+    <message>
+        <location line="+63"/>
+        <source>Area selected in %1: columns %2 to %3, rows %4 to %5.</source>
+        <translation>Área seleccionada en %1: columnas %2 a %3, filas %4 a %5.</translation>
+    </message>
+    <message>
+        <location line="+121"/>
+        <source>No point at column %1, row %2 of scan %3.</source>
+        <translation>No hay ningún punto en la columna %1, fila %2 del escaneo %3.</translation>
+    </message>
+    <message>
+        <location line="+33"/>
+        <source>Missing Information</source>
+        <translation>Falta información</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>You need to specify two points in the same or in different scans before.</source>
+        <translation>Primero debe especificar dos puntos en el mismo escaneo o en escaneos distintos.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>DX: %1 m</source>
+        <translation>DX: %1 m</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DY: %1 m</source>
+        <translation>DY: %1 m</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DZ: %1 m</source>
+        <translation>DZ: %1 m</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Distance 3D: %1 m</source>
+        <translation>Distancia 3D: %1 m</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Distance XY: %1 m</source>
+        <translation>Distancia XY: %1 m</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Distance Information</source>
+        <translation>Información de distancia</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>c: %1,  r: %2</source>
+        <comment>abbreviation for column and row</comment>
+        <translation>c: %1,  f: %2</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>c: %1, r: %2,   x: %3, y: %4, z: %5, dist: %6</source>
+        <translation>c: %1, f: %2,   x: %3, y: %4, z: %5, dist.: %6</translation>
+    </message>
+    <message>
+        <location filename="../libs/core/src/mainwindow/planarviewcontent.cpp" line="+53"/>
+        <source>distance: %1 m</source>
+        <translation>distancia: %1 m</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::BasicProject</name>
+    <message>
+        <location filename="../libs/core/src/project/basicproject.cpp" line="+296"/>
+        <source>the file cannot be opened</source>
+        <translation>el archivo no se puede abrir</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>the header cannot be read</source>
+        <translation>la cabecera no se puede leer</translation>
+    </message>
+    <message>
+        <location line="+252"/>
+        <source>the project is open read-only</source>
+        <translation>el proyecto está abierto en solo lectura</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>the unreadable annotation file cannot be kept as %1</source>
+        <translation>el archivo de anotaciones ilegible no se puede conservar como %1</translation>
+    </message>
+    <message>
+        <location line="+76"/>
+        <source>no project is open</source>
+        <translation>no hay ningún proyecto abierto</translation>
+    </message>
+</context>
+<context>
     <name>TVX::CORE::DeleteLockFileDialog</name>
     <message>
-        <location filename="../libs/core/src/project/deletelockfiledialog.cpp" line="+13"/>
+        <location filename="../libs/core/src/mainwindow/deletelockfiledialog.cpp" line="+13"/>
         <source>Could Not Open Project Directory</source>
         <translation>No se pudo abrir el directorio del proyecto</translation>
     </message>
@@ -27,7 +588,7 @@ Delete the lock file?</source>
 <context>
     <name>TVX::CORE::FileTreeModel</name>
     <message>
-        <location filename="../libs/core/src/project/filetreemodel.cpp" line="+244"/>
+        <location filename="../libs/core/src/project/filetreemodel.cpp" line="+246"/>
         <source>Name</source>
         <translation>Nombre</translation>
     </message>
@@ -45,6 +606,140 @@ Delete the lock file?</source>
         <location line="+2"/>
         <source>Pointcloud View</source>
         <translation>Vista de nube de puntos</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::FileTreeView</name>
+    <message>
+        <location filename="../libs/core/src/mainwindow/filetreeview.cpp" line="+85"/>
+        <location line="+62"/>
+        <source>Delete Items</source>
+        <translation>Eliminar elementos</translation>
+    </message>
+    <message>
+        <location line="-9"/>
+        <source>Add Scans</source>
+        <translation>Añadir escaneos</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Add Folder</source>
+        <translation>Añadir carpeta</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Rename Folder</source>
+        <translation>Cambiar nombre de carpeta</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Expand Folder</source>
+        <translation>Expandir carpeta</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Collapse Folder</source>
+        <translation>Contraer carpeta</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Open Planar View</source>
+        <translation>Abrir vista plana</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Open Spherical View</source>
+        <translation>Abrir vista esférica</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Open Pointcloud View</source>
+        <translation>Abrir vista de nube de puntos</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Close Views of this Scan</source>
+        <translation>Cerrar las vistas de este escaneo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Close Views of all other Scans</source>
+        <translation>Cerrar las vistas de todos los demás escaneos</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>New Folder</source>
+        <translation>Nueva carpeta</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>Delete the selected items from the project? The scan files stay on disk.</source>
+        <translation>¿Eliminar del proyecto los elementos seleccionados? Los archivos de escaneo permanecen en el disco.</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::LogTableModel</name>
+    <message>
+        <location filename="../libs/core/src/mainwindow/logtablemodel.cpp" line="+46"/>
+        <source>Type</source>
+        <comment>Type of Log Message (Warning, Error, ...</comment>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::PointInfoTableModel</name>
+    <message>
+        <location filename="../libs/core/src/mainwindow/pointinfotablemodel.cpp" line="+118"/>
+        <source>Column</source>
+        <translation>Columna</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Row</source>
+        <translation>Fila</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refl.</source>
+        <translation>Refl.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Distance</source>
+        <translation>Distancia</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Filename</source>
+        <translation>Nombre de archivo</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::PointInfoTableView</name>
+    <message>
+        <location filename="../libs/core/src/mainwindow/pointinfotableview.cpp" line="+29"/>
+        <source>Specify z-Coordinate</source>
+        <translation>Especificar coordenada z</translation>
+    </message>
+    <message>
+        <location line="+60"/>
+        <source>Save Entries to File</source>
+        <translation>Guardar entradas en un archivo</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Reset z-Coordinate to 0.0</source>
+        <translation>Restablecer coordenada z a 0.0</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Set Value of z-Coordinate</source>
+        <translation>Establecer valor de la coordenada z</translation>
     </message>
 </context>
 <context>
@@ -133,6 +828,34 @@ Delete the lock file?</source>
         <translation>Si vuelve a guardar este proyecto, solo podrá abrirse con aplicaciones compatibles con el nuevo formato de proyecto.
 </translation>
     </message>
+    <message>
+        <location line="+6"/>
+        <source>
+Cause: %1
+</source>
+        <translation>
+Causa: %1
+</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Changes could not be saved, because the project was opened in read-only mode.</source>
+        <translation>No se pudieron guardar los cambios porque el proyecto se abrió en modo de solo lectura.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The project file %1 could not be written.
+</source>
+        <translation>No se pudo escribir el archivo de proyecto %1.
+</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The project file %1 was missing; it was restored from the copy that the last save left behind.
+</source>
+        <translation>Faltaba el archivo de proyecto %1; se ha restaurado a partir de la copia que dejó el último guardado.
+</translation>
+    </message>
 </context>
 <context>
     <name>TVX::CORE::ReferencePointsTableModel</name>
@@ -210,6 +933,233 @@ Delete the lock file?</source>
 Line %2, column %3</source>
         <translation>%1
 Línea %2, columna %3</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::VIEWER::PreferencesWidget</name>
+    <message>
+        <location filename="../app/preferenceswidget.cpp" line="+67"/>
+        <source>Edit Preferences</source>
+        <translation>Editar preferencias</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Reset:</source>
+        <translation>Restablecer:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reset Application Settings to Defaults</source>
+        <translation>Restablecer la configuración predeterminada de la aplicación</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Language Selection:</source>
+        <translation>Selección de idioma:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Use System Default</source>
+        <translation>Usar el predeterminado del sistema</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Use Other than System Default</source>
+        <translation>Usar uno distinto del predeterminado del sistema</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>English</source>
+        <translation>Inglés</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>German</source>
+        <translation>Alemán</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Italian</source>
+        <translation>Italiano</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Spanish</source>
+        <translation>Español</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>French</source>
+        <translation>Francés</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Application Parameter:</source>
+        <translation>Parámetros de la aplicación:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Show Station Marks</source>
+        <translation>Mostrar marcas de estación</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Same as Active Window</source>
+        <translation>Igual que la ventana activa</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Planar View</source>
+        <translation>Vista plana</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Spherical View</source>
+        <translation>Vista esférica</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>PointCloud View</source>
+        <translation>Vista de nube de puntos</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>minimal Distance:</source>
+        <translation>Distancia mínima:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>maximal Distance:</source>
+        <translation>Distancia máxima:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>View to be opened by default:</source>
+        <translation>Vista que se abre por defecto:</translation>
+    </message>
+    <message>
+        <location line="+53"/>
+        <source>Reset Application Settings</source>
+        <translation>Restablecer configuración de la aplicación</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>All application settings are reset to their defaults. Please restart all Tarvnix applications before you continue.</source>
+        <translation>Toda la configuración de la aplicación se ha restablecido a sus valores predeterminados. Reinicie todas las aplicaciones de Tarvnix antes de continuar.</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::VIEWER::ShowProjectCoordSysDialog</name>
+    <message>
+        <location filename="../app/showprojectcoordsysdialog.cpp" line="+53"/>
+        <source>The project file holds no valid number here.</source>
+        <translation>El archivo de proyecto no contiene aquí un número válido.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Project Coordinate Systems</source>
+        <translation>Sistemas de coordenadas del proyecto</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>default</source>
+        <translation>predeterminado</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Rotation</source>
+        <translation>Rotación</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Translation</source>
+        <translation>Traslación</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>%1 (m):</source>
+        <translation>%1 (m):</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Coordinate system:</source>
+        <translation>Sistema de coordenadas:</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::VIEWER::StartupHelpWidget</name>
+    <message>
+        <location filename="../app/startuphelpwidget.cpp" line="+20"/>
+        <source>Quick Introduction</source>
+        <translation>Introducción rápida</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Show this help on startup</source>
+        <translation>Mostrar esta ayuda al iniciar</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>&lt;h2&gt;Welcome to the Scan Viewer&lt;/h2&gt;&lt;p&gt;The viewer shows projects of terrestrial laser scans: you look at the scans, pick 3D coordinates, measure distances and draw annotations.&lt;/p&gt;&lt;h3&gt;Projects&lt;/h3&gt;&lt;p&gt;A project is a folder that holds a project file and a folder named &lt;i&gt;scans&lt;/i&gt; with the scan files and their panorama images. Open it with &lt;b&gt;File &amp;gt; Open Project&lt;/b&gt;; the last ten projects are listed under &lt;b&gt;File &amp;gt; Recently Opened Files&lt;/b&gt;. While you work on a project, others can only open it read-only.&lt;/p&gt;&lt;h3&gt;The project tree&lt;/h3&gt;&lt;p&gt;The &lt;b&gt;Project&lt;/b&gt; dock lists the scans in their folders. Double click a scan to open it in the default view. The context menu (right mouse button) opens the planar, spherical or point cloud view of the selected scans, closes their views, and adds scans and folders, renames folders or deletes items. Drag items to arrange them in folders; the check box of a scan switches it off and closes its views.&lt;/p&gt;&lt;h3&gt;The three views&lt;/h3&gt;&lt;ul&gt;&lt;li&gt;&lt;b&gt;Planar view&lt;/b&gt;: the panorama image of the scan, one pixel per measured cell.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Spherical view&lt;/b&gt;: the panorama around the scanner&apos;s position, as if you stood there; drag to look around.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Point cloud view&lt;/b&gt;: the measured points in 3D; drag to turn the cloud.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Any number of views can be open at once; &lt;b&gt;Windows&lt;/b&gt; arranges or closes them. The zoom tools and &lt;b&gt;Zoom All&lt;/b&gt; change the magnification; hold the middle mouse button, or Ctrl and the left button, to pan.&lt;/p&gt;&lt;h3&gt;Picking coordinates&lt;/h3&gt;&lt;p&gt;With &lt;b&gt;Pick 3D Coordinates&lt;/b&gt; on, click into a view: the point&apos;s column, row, coordinates, reflectance and distance are added to the &lt;b&gt;Point Information&lt;/b&gt; dock. &lt;b&gt;Clear Point List&lt;/b&gt; empties the list; &lt;b&gt;Clear Picked Points from View&lt;/b&gt; removes the marks.&lt;/p&gt;&lt;h3&gt;Measuring&lt;/h3&gt;&lt;p&gt;The measuring tools &lt;b&gt;3D Distance&lt;/b&gt;, &lt;b&gt;Distance in XY&lt;/b&gt; and &lt;b&gt;Delta Z&lt;/b&gt; place a dimensioning between two points you click. &lt;b&gt;Detailed Distance Information&lt;/b&gt; shows all three distances between the last two picked points.&lt;/p&gt;&lt;h3&gt;Annotations&lt;/h3&gt;&lt;p&gt;Draw polygons, rectangles, ellipses and texts with the drawing tools; a polygon is closed with a double click. &lt;b&gt;Edit Elements&lt;/b&gt; lets you move and reshape them. Annotations are kept per scan and saved with the project by &lt;b&gt;File &amp;gt; Save Project&lt;/b&gt;.&lt;/p&gt;&lt;h3&gt;The lens&lt;/h3&gt;&lt;p&gt;Hold Shift while you move the mouse over a planar view: the &lt;b&gt;Lens&lt;/b&gt; dock magnifies the cells around the cursor and shows the coordinates of the cell in its centre.&lt;/p&gt;&lt;h3&gt;Station marks&lt;/h3&gt;&lt;p&gt;The positions of the other scans nearby are shown as station marks. Double click one to open that scan.&lt;/p&gt;&lt;h3&gt;Preferences&lt;/h3&gt;&lt;p&gt;&lt;b&gt;Preferences...&lt;/b&gt; in the help menu sets the language, whether station marks are shown and within which distances, and which view a double click in the project tree opens. &lt;b&gt;Project Coordinates...&lt;/b&gt; shows the coordinate systems of the project.&lt;/p&gt;</source>
+        <translation>&lt;h2&gt;Bienvenido al Scan Viewer&lt;/h2&gt;&lt;p&gt;El visor muestra proyectos de escaneos láser terrestres: puede observar los escaneos, capturar coordenadas 3D, medir distancias y dibujar anotaciones.&lt;/p&gt;&lt;h3&gt;Proyectos&lt;/h3&gt;&lt;p&gt;Un proyecto es una carpeta que contiene un archivo de proyecto y una carpeta llamada &lt;i&gt;scans&lt;/i&gt; con los archivos de escaneo y sus imágenes panorámicas. Ábralo con &lt;b&gt;Archivo &amp;gt; Abrir proyecto&lt;/b&gt;; los diez últimos proyectos aparecen en &lt;b&gt;Archivo &amp;gt; Archivos abiertos recientemente&lt;/b&gt;. Mientras usted trabaja en un proyecto, los demás solo pueden abrirlo en modo de solo lectura.&lt;/p&gt;&lt;h3&gt;El árbol del proyecto&lt;/h3&gt;&lt;p&gt;El panel &lt;b&gt;Proyecto&lt;/b&gt; muestra los escaneos en sus carpetas. Haga doble clic en un escaneo para abrirlo en la vista predeterminada. El menú contextual (botón derecho del ratón) abre la vista plana, esférica o de nube de puntos de los escaneos seleccionados, cierra sus vistas, añade escaneos y carpetas, cambia el nombre de carpetas o elimina elementos. Arrastre los elementos para organizarlos en carpetas; la casilla de un escaneo lo desactiva y cierra sus vistas.&lt;/p&gt;&lt;h3&gt;Las tres vistas&lt;/h3&gt;&lt;ul&gt;&lt;li&gt;&lt;b&gt;Vista plana&lt;/b&gt;: la imagen panorámica del escaneo, un píxel por celda medida.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Vista esférica&lt;/b&gt;: el panorama alrededor de la posición del escáner, como si estuviera allí; arrastre para mirar alrededor.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Vista de nube de puntos&lt;/b&gt;: los puntos medidos en 3D; arrastre para girar la nube.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Puede haber cualquier número de vistas abiertas a la vez; &lt;b&gt;Ventanas&lt;/b&gt; las organiza o las cierra. Las herramientas de zoom y &lt;b&gt;Ver todo&lt;/b&gt; cambian la ampliación; mantenga pulsado el botón central del ratón, o Ctrl y el botón izquierdo, para desplazar la vista.&lt;/p&gt;&lt;h3&gt;Capturar coordenadas&lt;/h3&gt;&lt;p&gt;Con &lt;b&gt;Capturar coordenadas 3D&lt;/b&gt; activo, haga clic en una vista: la columna, la fila, las coordenadas, la reflectancia y la distancia del punto se añaden al panel &lt;b&gt;Información del punto&lt;/b&gt;. &lt;b&gt;Vaciar lista de puntos&lt;/b&gt; vacía la lista; &lt;b&gt;Quitar los puntos capturados de la vista&lt;/b&gt; elimina las marcas.&lt;/p&gt;&lt;h3&gt;Medir&lt;/h3&gt;&lt;p&gt;Las herramientas de medición &lt;b&gt;Distancia 3D&lt;/b&gt;, &lt;b&gt;Distancia en XY&lt;/b&gt; y &lt;b&gt;Delta Z&lt;/b&gt; colocan una cota entre dos puntos en los que hace clic. &lt;b&gt;Información detallada de distancia&lt;/b&gt; muestra las tres distancias entre los dos últimos puntos capturados.&lt;/p&gt;&lt;h3&gt;Anotaciones&lt;/h3&gt;&lt;p&gt;Dibuje polígonos, rectángulos, elipses y textos con las herramientas de dibujo; un polígono se cierra con un doble clic. &lt;b&gt;Editar elementos&lt;/b&gt; permite moverlos y modificar su forma. Las anotaciones se guardan por escaneo junto con el proyecto mediante &lt;b&gt;Archivo &amp;gt; Guardar proyecto&lt;/b&gt;.&lt;/p&gt;&lt;h3&gt;La lupa&lt;/h3&gt;&lt;p&gt;Mantenga pulsada la tecla Mayús mientras mueve el ratón sobre una vista plana: el panel &lt;b&gt;Lupa&lt;/b&gt; amplía las celdas alrededor del cursor y muestra las coordenadas de la celda central.&lt;/p&gt;&lt;h3&gt;Marcas de estación&lt;/h3&gt;&lt;p&gt;Las posiciones de los demás escaneos cercanos se muestran como marcas de estación. Haga doble clic en una para abrir ese escaneo.&lt;/p&gt;&lt;h3&gt;Preferencias&lt;/h3&gt;&lt;p&gt;&lt;b&gt;Preferencias...&lt;/b&gt; en el menú de ayuda establece el idioma, si se muestran las marcas de estación y dentro de qué distancias, y qué vista abre un doble clic en el árbol del proyecto. &lt;b&gt;Coordenadas del proyecto...&lt;/b&gt; muestra los sistemas de coordenadas del proyecto.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::VIEWER::ViewerMainWindow</name>
+    <message>
+        <location filename="../app/viewermainwindow.cpp" line="+34"/>
+        <source>Preferences...</source>
+        <translation>Preferencias...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Project Coordinates...</source>
+        <translation>Coordenadas del proyecto...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Show Quick Introduction</source>
+        <translation>Mostrar introducción rápida</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+63"/>
+        <source>About Tarvenix Scan Viewer</source>
+        <translation>Acerca de Tarvenix Scan Viewer</translation>
+    </message>
+    <message>
+        <location line="-62"/>
+        <location line="+74"/>
+        <source>More About Tarvenix</source>
+        <translation>Más sobre Tarvenix</translation>
+    </message>
+    <message>
+        <location line="-72"/>
+        <source>Information</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <location line="+61"/>
+        <source>&lt;h3&gt;Tarvenix Scan Viewer&lt;/h3&gt;&lt;p&gt;Version %1.%2.%3&lt;/p&gt;&lt;p&gt;Views projects of terrestrial laser scans: panoramas, spheres around each station and point clouds; picks coordinates, measures distances and keeps annotations beside each scan.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Tarvenix Scan Viewer&lt;/h3&gt;&lt;p&gt;Versión %1.%2.%3&lt;/p&gt;&lt;p&gt;Muestra proyectos de escaneos láser terrestres: panoramas, esferas alrededor de cada estación y nubes de puntos; captura coordenadas, mide distancias y guarda anotaciones junto a cada escaneo.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>The Tarvenix Software Suite registers, models and publishes terrestrial laser scans. This viewer opens the projects that the suite writes.</source>
+        <translation>Tarvenix Software Suite registra, modela y publica escaneos láser terrestres. Este visor abre los proyectos que escribe la suite.</translation>
+    </message>
+</context>
+<context>
+    <name>application start up</name>
+    <message>
+        <location filename="../app/main.cpp" line="+71"/>
+        <source>Please specify your user name</source>
+        <translation>Indique su nombre de usuario</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>User name:</source>
+        <translation>Nombre de usuario:</translation>
     </message>
 </context>
 </TS>

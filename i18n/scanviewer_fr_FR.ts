@@ -2,9 +2,570 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR">
 <context>
+    <name>TVX::CORE::BasicMainWindow</name>
+    <message>
+        <location filename="../libs/core/src/mainwindow/basicmainwindow.cpp" line="+214"/>
+        <source>Project</source>
+        <translation>Projet</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Lens</source>
+        <translation>Loupe</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Point Information</source>
+        <translation>Informations sur le point</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Report</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Open Project</source>
+        <translation>Ouvrir un projet</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Save Project</source>
+        <translation>Enregistrer le projet</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>E&amp;xit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Pick 3D Coordinates</source>
+        <translation>Relever des coordonnées 3D</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Clear Point List</source>
+        <translation>Vider la liste des points</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Clear Picked Points from View</source>
+        <translation>Retirer les points relevés de la vue</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Edit Elements</source>
+        <translation>Modifier les éléments</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Zoom In</source>
+        <translation>Zoom avant</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Zoom Out</source>
+        <translation>Zoom arrière</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Zoom All</source>
+        <translation>Tout afficher</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Cascade Windows</source>
+        <translation>Fenêtres en cascade</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cascade all Mdi Windows</source>
+        <translation>Disposer toutes les fenêtres MDI en cascade</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Tile Windows</source>
+        <translation>Fenêtres en mosaïque</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Tile all Mdi Windows</source>
+        <translation>Disposer toutes les fenêtres MDI en mosaïque</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Close All Windows</source>
+        <translation>Fermer toutes les fenêtres</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Close all Mdi Windows</source>
+        <translation>Fermer toutes les fenêtres MDI</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Add Polygon</source>
+        <translation>Ajouter un polygone</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Add Rectangle</source>
+        <translation>Ajouter un rectangle</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Add Ellipse</source>
+        <translation>Ajouter une ellipse</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Add Text</source>
+        <translation>Ajouter un texte</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>3D Distance</source>
+        <translation>Distance 3D</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Distance in XY</source>
+        <translation>Distance en XY</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Delta Z</source>
+        <translation>Delta Z</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Detailed Distance Information</source>
+        <translation>Informations détaillées sur la distance</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Undo Clear Point List</source>
+        <translation>Annuler le vidage de la liste des points</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <source>File Operations</source>
+        <translation>Opérations sur les fichiers</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Zoom Operations</source>
+        <translation>Opérations de zoom</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Drawing Tools</source>
+        <translation>Outils de dessin</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Measurement Tools</source>
+        <translation>Outils de mesure</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Point-based Operations</source>
+        <translation>Opérations sur les points</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Recently Opened Files</source>
+        <translation>Fichiers récemment ouverts</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Toolbars</source>
+        <translation>Barres d&apos;outils</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Windows</source>
+        <translation>Fenêtres</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>&amp;Windows</source>
+        <translation>Fe&amp;nêtres</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <location line="+71"/>
+        <location line="+125"/>
+        <location line="+325"/>
+        <source>Read-only project</source>
+        <translation>Projet en lecture seule</translation>
+    </message>
+    <message>
+        <location line="-449"/>
+        <location line="+125"/>
+        <location line="+325"/>
+        <source>Changes could not be saved, because the project was opened in read-only mode.</source>
+        <translation>Les modifications n&apos;ont pas pu être enregistrées, car le projet a été ouvert en lecture seule.</translation>
+    </message>
+    <message>
+        <location line="-446"/>
+        <source>Save Changes?</source>
+        <translation>Enregistrer les modifications ?</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Changes where made to one or more views. Should they be stored permanently?</source>
+        <translation>Des modifications ont été apportées à une ou plusieurs vues. Faut-il les enregistrer définitivement ?</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <location line="+111"/>
+        <source>File IO Error</source>
+        <translation>Erreur d&apos;E/S de fichier</translation>
+    </message>
+    <message>
+        <location line="-111"/>
+        <source>An error occurred during saving the changes permanently. Try again?</source>
+        <translation>Une erreur s&apos;est produite lors de l&apos;enregistrement définitif des modifications. Réessayer ?</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>Select Project File</source>
+        <translation>Sélectionner le fichier de projet</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Tarvenix Project File (*.tvxprj)</source>
+        <translation>Fichier de projet Tarvenix (*.tvxprj)</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <location line="+43"/>
+        <location line="+6"/>
+        <source>Could Not Open Project Directory</source>
+        <translation>Impossible d&apos;ouvrir le répertoire du projet</translation>
+    </message>
+    <message>
+        <location line="-48"/>
+        <source>The project directory %1 does not exist.</source>
+        <translation>Le répertoire du projet %1 n&apos;existe pas.</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Warning: Old Project File Version</source>
+        <translation>Avertissement : ancienne version du fichier de projet</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Project %1 opened%2.</source>
+        <translation>Projet %1 ouvert%2.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source> read-only</source>
+        <translation> en lecture seule</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Scan not readable: %1</source>
+        <translation>Scan illisible : %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Scans Could Not Be Read</source>
+        <translation>Des scans n&apos;ont pas pu être lus</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The following scans of the project could not be read and are not shown:
+
+%1</source>
+        <translation>Les scans suivants du projet n&apos;ont pas pu être lus et ne sont pas affichés :
+
+%1</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>The lock file %1 could not be deleted.</source>
+        <translation>Le fichier de verrou %1 n&apos;a pas pu être supprimé.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Lock file %1 deleted by the user.</source>
+        <translation>Fichier de verrou %1 supprimé par l&apos;utilisateur.</translation>
+    </message>
+    <message>
+        <location line="+34"/>
+        <source>Project %1 saved.</source>
+        <translation>Projet %1 enregistré.</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Could Not Close Project</source>
+        <translation>Impossible de fermer le projet</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Tarvenix Viewer</source>
+        <translation>Tarvenix Viewer</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Tarvenix Viewer: %1[*]</source>
+        <translation>Tarvenix Viewer : %1[*]</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <location line="+16"/>
+        <source>Add Scans</source>
+        <translation>Ajouter des scans</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>Scan Files (*.tvx)</source>
+        <translation>Fichiers de scan (*.tvx)</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Scan %1 added.</source>
+        <translation>Scan %1 ajouté.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>These scans could not be added:
+
+%1</source>
+        <translation>Ces scans n&apos;ont pas pu être ajoutés :
+
+%1</translation>
+    </message>
+    <message>
+        <location line="+75"/>
+        <source>Open Planar View</source>
+        <translation>Ouvrir la vue plane</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Open Spherical View</source>
+        <translation>Ouvrir la vue sphérique</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Open Pointcloud View</source>
+        <translation>Ouvrir la vue nuage de points</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Close Views of this Scan</source>
+        <translation>Fermer les vues de ce scan</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Close Views of all other Scans</source>
+        <translation>Fermer les vues de tous les autres scans</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>The panorama %1 cannot be read.</source>
+        <translation>Le panorama %1 ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Open a new View Failed</source>
+        <translation>Échec de l&apos;ouverture d&apos;une nouvelle vue</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Tarvenix was unable to open a new scan view. Please close some other views and try again.</source>
+        <translation>Tarvenix n&apos;a pas pu ouvrir une nouvelle vue du scan. Veuillez fermer d&apos;autres vues et réessayer.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Planar View: </source>
+        <translation>Vue plane : </translation>
+    </message>
+    <message>
+        <location line="+38"/>
+        <source>Spherical views are not available in this version (scan %1).</source>
+        <translation>Les vues sphériques ne sont pas disponibles dans cette version (scan %1).</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Point cloud views are not available in this version (scan %1).</source>
+        <translation>Les vues nuage de points ne sont pas disponibles dans cette version (scan %1).</translation>
+    </message>
+    <message>
+        <location line="+68"/>
+        <source>Error reading file</source>
+        <translation>Erreur de lecture du fichier</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Parse error in file %1:
+
+%2</source>
+        <translation>Erreur d&apos;analyse dans le fichier %1 :
+
+%2</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Internal Error</source>
+        <translation>Erreur interne</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>No scene information for scan found.</source>
+        <translation>Aucune information de scène trouvée pour le scan.</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Annotations saved to %1.</source>
+        <translation>Annotations enregistrées dans %1.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Annotations not saved to %1: %2</source>
+        <translation>Annotations non enregistrées dans %1 : %2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>   %1
+</source>
+        <translation>   %1
+</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Error writing files</source>
+        <translation>Erreur d&apos;écriture des fichiers</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Could not write the following files:
+</source>
+        <translation>Les fichiers suivants n&apos;ont pas pu être écrits :
+</translation>
+    </message>
+    <message>
+        <location line="+63"/>
+        <source>Area selected in %1: columns %2 to %3, rows %4 to %5.</source>
+        <translation>Zone sélectionnée dans %1 : colonnes %2 à %3, lignes %4 à %5.</translation>
+    </message>
+    <message>
+        <location line="+121"/>
+        <source>No point at column %1, row %2 of scan %3.</source>
+        <translation>Aucun point à la colonne %1, ligne %2 du scan %3.</translation>
+    </message>
+    <message>
+        <location line="+33"/>
+        <source>Missing Information</source>
+        <translation>Informations manquantes</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>You need to specify two points in the same or in different scans before.</source>
+        <translation>Vous devez d&apos;abord indiquer deux points dans le même scan ou dans des scans différents.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>DX: %1 m</source>
+        <translation>DX : %1 m</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DY: %1 m</source>
+        <translation>DY : %1 m</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DZ: %1 m</source>
+        <translation>DZ : %1 m</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Distance 3D: %1 m</source>
+        <translation>Distance 3D : %1 m</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Distance XY: %1 m</source>
+        <translation>Distance XY : %1 m</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Distance Information</source>
+        <translation>Informations sur la distance</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>c: %1,  r: %2</source>
+        <comment>abbreviation for column and row</comment>
+        <translation>c : %1,  l : %2</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>c: %1, r: %2,   x: %3, y: %4, z: %5, dist: %6</source>
+        <translation>c : %1, l : %2,   x : %3, y : %4, z : %5, dist. : %6</translation>
+    </message>
+    <message>
+        <location filename="../libs/core/src/mainwindow/planarviewcontent.cpp" line="+53"/>
+        <source>distance: %1 m</source>
+        <translation>distance : %1 m</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::BasicProject</name>
+    <message>
+        <location filename="../libs/core/src/project/basicproject.cpp" line="+296"/>
+        <source>the file cannot be opened</source>
+        <translation>le fichier ne peut pas être ouvert</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>the header cannot be read</source>
+        <translation>l&apos;en-tête ne peut pas être lu</translation>
+    </message>
+    <message>
+        <location line="+252"/>
+        <source>the project is open read-only</source>
+        <translation>le projet est ouvert en lecture seule</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>the unreadable annotation file cannot be kept as %1</source>
+        <translation>le fichier d&apos;annotations illisible ne peut pas être conservé sous %1</translation>
+    </message>
+    <message>
+        <location line="+76"/>
+        <source>no project is open</source>
+        <translation>aucun projet n&apos;est ouvert</translation>
+    </message>
+</context>
+<context>
     <name>TVX::CORE::DeleteLockFileDialog</name>
     <message>
-        <location filename="../libs/core/src/project/deletelockfiledialog.cpp" line="+13"/>
+        <location filename="../libs/core/src/mainwindow/deletelockfiledialog.cpp" line="+13"/>
         <source>Could Not Open Project Directory</source>
         <translation>Impossible d&apos;ouvrir le répertoire du projet</translation>
     </message>
@@ -27,7 +588,7 @@ Supprimer le fichier de verrouillage ?</translation>
 <context>
     <name>TVX::CORE::FileTreeModel</name>
     <message>
-        <location filename="../libs/core/src/project/filetreemodel.cpp" line="+244"/>
+        <location filename="../libs/core/src/project/filetreemodel.cpp" line="+246"/>
         <source>Name</source>
         <translation>Nom</translation>
     </message>
@@ -45,6 +606,140 @@ Supprimer le fichier de verrouillage ?</translation>
         <location line="+2"/>
         <source>Pointcloud View</source>
         <translation>Vue nuage de points</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::FileTreeView</name>
+    <message>
+        <location filename="../libs/core/src/mainwindow/filetreeview.cpp" line="+85"/>
+        <location line="+62"/>
+        <source>Delete Items</source>
+        <translation>Supprimer les éléments</translation>
+    </message>
+    <message>
+        <location line="-9"/>
+        <source>Add Scans</source>
+        <translation>Ajouter des scans</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Add Folder</source>
+        <translation>Ajouter un dossier</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Rename Folder</source>
+        <translation>Renommer le dossier</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Expand Folder</source>
+        <translation>Développer le dossier</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Collapse Folder</source>
+        <translation>Réduire le dossier</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Open Planar View</source>
+        <translation>Ouvrir la vue plane</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Open Spherical View</source>
+        <translation>Ouvrir la vue sphérique</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Open Pointcloud View</source>
+        <translation>Ouvrir la vue nuage de points</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Close Views of this Scan</source>
+        <translation>Fermer les vues de ce scan</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Close Views of all other Scans</source>
+        <translation>Fermer les vues de tous les autres scans</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>New Folder</source>
+        <translation>Nouveau dossier</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>Delete the selected items from the project? The scan files stay on disk.</source>
+        <translation>Supprimer du projet les éléments sélectionnés ? Les fichiers de scan restent sur le disque.</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::LogTableModel</name>
+    <message>
+        <location filename="../libs/core/src/mainwindow/logtablemodel.cpp" line="+46"/>
+        <source>Type</source>
+        <comment>Type of Log Message (Warning, Error, ...</comment>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::PointInfoTableModel</name>
+    <message>
+        <location filename="../libs/core/src/mainwindow/pointinfotablemodel.cpp" line="+118"/>
+        <source>Column</source>
+        <translation>Colonne</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Row</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refl.</source>
+        <translation>Réfl.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Distance</source>
+        <translation>Distance</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Filename</source>
+        <translation>Nom de fichier</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::PointInfoTableView</name>
+    <message>
+        <location filename="../libs/core/src/mainwindow/pointinfotableview.cpp" line="+29"/>
+        <source>Specify z-Coordinate</source>
+        <translation>Définir la coordonnée z</translation>
+    </message>
+    <message>
+        <location line="+60"/>
+        <source>Save Entries to File</source>
+        <translation>Enregistrer les entrées dans un fichier</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Reset z-Coordinate to 0.0</source>
+        <translation>Remettre la coordonnée z à 0.0</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Set Value of z-Coordinate</source>
+        <translation>Définir la valeur de la coordonnée z</translation>
     </message>
 </context>
 <context>
@@ -133,6 +828,34 @@ Supprimer le fichier de verrouillage ?</translation>
         <translation>Si vous enregistrez à nouveau ce projet, il ne pourra être rouvert qu&apos;avec des applications prenant en charge le nouveau format de projet.
 </translation>
     </message>
+    <message>
+        <location line="+6"/>
+        <source>
+Cause: %1
+</source>
+        <translation>
+Cause : %1
+</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Changes could not be saved, because the project was opened in read-only mode.</source>
+        <translation>Les modifications n&apos;ont pas pu être enregistrées, car le projet a été ouvert en lecture seule.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The project file %1 could not be written.
+</source>
+        <translation>Le fichier de projet %1 n&apos;a pas pu être écrit.
+</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The project file %1 was missing; it was restored from the copy that the last save left behind.
+</source>
+        <translation>Le fichier de projet %1 était absent ; il a été restauré à partir de la copie laissée par le dernier enregistrement.
+</translation>
+    </message>
 </context>
 <context>
     <name>TVX::CORE::ReferencePointsTableModel</name>
@@ -210,6 +933,233 @@ Supprimer le fichier de verrouillage ?</translation>
 Line %2, column %3</source>
         <translation>%1
 Ligne %2, colonne %3</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::VIEWER::PreferencesWidget</name>
+    <message>
+        <location filename="../app/preferenceswidget.cpp" line="+67"/>
+        <source>Edit Preferences</source>
+        <translation>Modifier les préférences</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Reset:</source>
+        <translation>Réinitialisation :</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reset Application Settings to Defaults</source>
+        <translation>Rétablir les paramètres par défaut de l&apos;application</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Language Selection:</source>
+        <translation>Choix de la langue :</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Use System Default</source>
+        <translation>Utiliser la langue du système</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Use Other than System Default</source>
+        <translation>Utiliser une autre langue que celle du système</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>English</source>
+        <translation>Anglais</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>German</source>
+        <translation>Allemand</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Italian</source>
+        <translation>Italien</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Spanish</source>
+        <translation>Espagnol</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>French</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Application Parameter:</source>
+        <translation>Paramètres de l&apos;application :</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Show Station Marks</source>
+        <translation>Afficher les marques de station</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Same as Active Window</source>
+        <translation>Comme la fenêtre active</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Planar View</source>
+        <translation>Vue plane</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Spherical View</source>
+        <translation>Vue sphérique</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>PointCloud View</source>
+        <translation>Vue nuage de points</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>minimal Distance:</source>
+        <translation>Distance minimale :</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>maximal Distance:</source>
+        <translation>Distance maximale :</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>View to be opened by default:</source>
+        <translation>Vue ouverte par défaut :</translation>
+    </message>
+    <message>
+        <location line="+53"/>
+        <source>Reset Application Settings</source>
+        <translation>Réinitialiser les paramètres de l&apos;application</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>All application settings are reset to their defaults. Please restart all Tarvnix applications before you continue.</source>
+        <translation>Tous les paramètres de l&apos;application ont été rétablis à leurs valeurs par défaut. Veuillez redémarrer toutes les applications Tarvnix avant de continuer.</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::VIEWER::ShowProjectCoordSysDialog</name>
+    <message>
+        <location filename="../app/showprojectcoordsysdialog.cpp" line="+53"/>
+        <source>The project file holds no valid number here.</source>
+        <translation>Le fichier de projet ne contient pas de nombre valide ici.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Project Coordinate Systems</source>
+        <translation>Systèmes de coordonnées du projet</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>default</source>
+        <translation>par défaut</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Rotation</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Translation</source>
+        <translation>Translation</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>%1 (m):</source>
+        <translation>%1 (m) :</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Coordinate system:</source>
+        <translation>Système de coordonnées :</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::VIEWER::StartupHelpWidget</name>
+    <message>
+        <location filename="../app/startuphelpwidget.cpp" line="+20"/>
+        <source>Quick Introduction</source>
+        <translation>Introduction rapide</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Show this help on startup</source>
+        <translation>Afficher cette aide au démarrage</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>&lt;h2&gt;Welcome to the Scan Viewer&lt;/h2&gt;&lt;p&gt;The viewer shows projects of terrestrial laser scans: you look at the scans, pick 3D coordinates, measure distances and draw annotations.&lt;/p&gt;&lt;h3&gt;Projects&lt;/h3&gt;&lt;p&gt;A project is a folder that holds a project file and a folder named &lt;i&gt;scans&lt;/i&gt; with the scan files and their panorama images. Open it with &lt;b&gt;File &amp;gt; Open Project&lt;/b&gt;; the last ten projects are listed under &lt;b&gt;File &amp;gt; Recently Opened Files&lt;/b&gt;. While you work on a project, others can only open it read-only.&lt;/p&gt;&lt;h3&gt;The project tree&lt;/h3&gt;&lt;p&gt;The &lt;b&gt;Project&lt;/b&gt; dock lists the scans in their folders. Double click a scan to open it in the default view. The context menu (right mouse button) opens the planar, spherical or point cloud view of the selected scans, closes their views, and adds scans and folders, renames folders or deletes items. Drag items to arrange them in folders; the check box of a scan switches it off and closes its views.&lt;/p&gt;&lt;h3&gt;The three views&lt;/h3&gt;&lt;ul&gt;&lt;li&gt;&lt;b&gt;Planar view&lt;/b&gt;: the panorama image of the scan, one pixel per measured cell.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Spherical view&lt;/b&gt;: the panorama around the scanner&apos;s position, as if you stood there; drag to look around.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Point cloud view&lt;/b&gt;: the measured points in 3D; drag to turn the cloud.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Any number of views can be open at once; &lt;b&gt;Windows&lt;/b&gt; arranges or closes them. The zoom tools and &lt;b&gt;Zoom All&lt;/b&gt; change the magnification; hold the middle mouse button, or Ctrl and the left button, to pan.&lt;/p&gt;&lt;h3&gt;Picking coordinates&lt;/h3&gt;&lt;p&gt;With &lt;b&gt;Pick 3D Coordinates&lt;/b&gt; on, click into a view: the point&apos;s column, row, coordinates, reflectance and distance are added to the &lt;b&gt;Point Information&lt;/b&gt; dock. &lt;b&gt;Clear Point List&lt;/b&gt; empties the list; &lt;b&gt;Clear Picked Points from View&lt;/b&gt; removes the marks.&lt;/p&gt;&lt;h3&gt;Measuring&lt;/h3&gt;&lt;p&gt;The measuring tools &lt;b&gt;3D Distance&lt;/b&gt;, &lt;b&gt;Distance in XY&lt;/b&gt; and &lt;b&gt;Delta Z&lt;/b&gt; place a dimensioning between two points you click. &lt;b&gt;Detailed Distance Information&lt;/b&gt; shows all three distances between the last two picked points.&lt;/p&gt;&lt;h3&gt;Annotations&lt;/h3&gt;&lt;p&gt;Draw polygons, rectangles, ellipses and texts with the drawing tools; a polygon is closed with a double click. &lt;b&gt;Edit Elements&lt;/b&gt; lets you move and reshape them. Annotations are kept per scan and saved with the project by &lt;b&gt;File &amp;gt; Save Project&lt;/b&gt;.&lt;/p&gt;&lt;h3&gt;The lens&lt;/h3&gt;&lt;p&gt;Hold Shift while you move the mouse over a planar view: the &lt;b&gt;Lens&lt;/b&gt; dock magnifies the cells around the cursor and shows the coordinates of the cell in its centre.&lt;/p&gt;&lt;h3&gt;Station marks&lt;/h3&gt;&lt;p&gt;The positions of the other scans nearby are shown as station marks. Double click one to open that scan.&lt;/p&gt;&lt;h3&gt;Preferences&lt;/h3&gt;&lt;p&gt;&lt;b&gt;Preferences...&lt;/b&gt; in the help menu sets the language, whether station marks are shown and within which distances, and which view a double click in the project tree opens. &lt;b&gt;Project Coordinates...&lt;/b&gt; shows the coordinate systems of the project.&lt;/p&gt;</source>
+        <translation>&lt;h2&gt;Bienvenue dans le Scan Viewer&lt;/h2&gt;&lt;p&gt;Le visualiseur affiche des projets de scans laser terrestres : vous regardez les scans, relevez des coordonnées 3D, mesurez des distances et dessinez des annotations.&lt;/p&gt;&lt;h3&gt;Projets&lt;/h3&gt;&lt;p&gt;Un projet est un dossier qui contient un fichier de projet et un dossier nommé &lt;i&gt;scans&lt;/i&gt; avec les fichiers de scan et leurs images panoramiques. Ouvrez-le avec &lt;b&gt;Fichier &amp;gt; Ouvrir un projet&lt;/b&gt; ; les dix derniers projets figurent sous &lt;b&gt;Fichier &amp;gt; Fichiers récemment ouverts&lt;/b&gt;. Pendant que vous travaillez sur un projet, les autres ne peuvent l&apos;ouvrir qu&apos;en lecture seule.&lt;/p&gt;&lt;h3&gt;L&apos;arborescence du projet&lt;/h3&gt;&lt;p&gt;Le panneau &lt;b&gt;Projet&lt;/b&gt; liste les scans dans leurs dossiers. Double-cliquez sur un scan pour l&apos;ouvrir dans la vue par défaut. Le menu contextuel (bouton droit de la souris) ouvre la vue plane, sphérique ou nuage de points des scans sélectionnés, ferme leurs vues, ajoute des scans et des dossiers, renomme des dossiers ou supprime des éléments. Faites glisser les éléments pour les ranger dans des dossiers ; la case à cocher d&apos;un scan le désactive et ferme ses vues.&lt;/p&gt;&lt;h3&gt;Les trois vues&lt;/h3&gt;&lt;ul&gt;&lt;li&gt;&lt;b&gt;Vue plane&lt;/b&gt; : l&apos;image panoramique du scan, un pixel par cellule mesurée.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Vue sphérique&lt;/b&gt; : le panorama autour de la position du scanner, comme si vous vous y trouviez ; faites glisser pour regarder autour de vous.&lt;/li&gt;&lt;li&gt;&lt;b&gt;Vue nuage de points&lt;/b&gt; : les points mesurés en 3D ; faites glisser pour faire tourner le nuage.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Autant de vues que vous le souhaitez peuvent être ouvertes à la fois ; &lt;b&gt;Fenêtres&lt;/b&gt; les dispose ou les ferme. Les outils de zoom et &lt;b&gt;Tout afficher&lt;/b&gt; modifient le grossissement ; maintenez le bouton central de la souris, ou Ctrl et le bouton gauche, pour déplacer la vue.&lt;/p&gt;&lt;h3&gt;Relever des coordonnées&lt;/h3&gt;&lt;p&gt;Lorsque &lt;b&gt;Relever des coordonnées 3D&lt;/b&gt; est actif, cliquez dans une vue : la colonne, la ligne, les coordonnées, la réflectance et la distance du point sont ajoutées au panneau &lt;b&gt;Informations sur le point&lt;/b&gt;. &lt;b&gt;Vider la liste des points&lt;/b&gt; vide la liste ; &lt;b&gt;Retirer les points relevés de la vue&lt;/b&gt; supprime les marques.&lt;/p&gt;&lt;h3&gt;Mesurer&lt;/h3&gt;&lt;p&gt;Les outils de mesure &lt;b&gt;Distance 3D&lt;/b&gt;, &lt;b&gt;Distance en XY&lt;/b&gt; et &lt;b&gt;Delta Z&lt;/b&gt; placent une cotation entre deux points sur lesquels vous cliquez. &lt;b&gt;Informations détaillées sur la distance&lt;/b&gt; affiche les trois distances entre les deux derniers points relevés.&lt;/p&gt;&lt;h3&gt;Annotations&lt;/h3&gt;&lt;p&gt;Dessinez des polygones, des rectangles, des ellipses et des textes avec les outils de dessin ; un polygone se ferme par un double-clic. &lt;b&gt;Modifier les éléments&lt;/b&gt; permet de les déplacer et de les remodeler. Les annotations sont conservées par scan et enregistrées avec le projet par &lt;b&gt;Fichier &amp;gt; Enregistrer le projet&lt;/b&gt;.&lt;/p&gt;&lt;h3&gt;La loupe&lt;/h3&gt;&lt;p&gt;Maintenez la touche Maj enfoncée pendant que vous déplacez la souris sur une vue plane : le panneau &lt;b&gt;Loupe&lt;/b&gt; agrandit les cellules autour du curseur et affiche les coordonnées de la cellule centrale.&lt;/p&gt;&lt;h3&gt;Marques de station&lt;/h3&gt;&lt;p&gt;Les positions des autres scans proches sont affichées sous forme de marques de station. Double-cliquez sur une marque pour ouvrir ce scan.&lt;/p&gt;&lt;h3&gt;Préférences&lt;/h3&gt;&lt;p&gt;&lt;b&gt;Préférences...&lt;/b&gt; dans le menu Aide définit la langue, si les marques de station sont affichées et dans quelles distances, et quelle vue un double-clic dans l&apos;arborescence du projet ouvre. &lt;b&gt;Coordonnées du projet...&lt;/b&gt; affiche les systèmes de coordonnées du projet.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::VIEWER::ViewerMainWindow</name>
+    <message>
+        <location filename="../app/viewermainwindow.cpp" line="+34"/>
+        <source>Preferences...</source>
+        <translation>Préférences...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Project Coordinates...</source>
+        <translation>Coordonnées du projet...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Show Quick Introduction</source>
+        <translation>Afficher l&apos;introduction rapide</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+63"/>
+        <source>About Tarvenix Scan Viewer</source>
+        <translation>À propos de Tarvenix Scan Viewer</translation>
+    </message>
+    <message>
+        <location line="-62"/>
+        <location line="+74"/>
+        <source>More About Tarvenix</source>
+        <translation>En savoir plus sur Tarvenix</translation>
+    </message>
+    <message>
+        <location line="-72"/>
+        <source>Information</source>
+        <translation>Informations</translation>
+    </message>
+    <message>
+        <location line="+61"/>
+        <source>&lt;h3&gt;Tarvenix Scan Viewer&lt;/h3&gt;&lt;p&gt;Version %1.%2.%3&lt;/p&gt;&lt;p&gt;Views projects of terrestrial laser scans: panoramas, spheres around each station and point clouds; picks coordinates, measures distances and keeps annotations beside each scan.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Tarvenix Scan Viewer&lt;/h3&gt;&lt;p&gt;Version %1.%2.%3&lt;/p&gt;&lt;p&gt;Affiche des projets de scans laser terrestres : panoramas, sphères autour de chaque station et nuages de points ; relève des coordonnées, mesure des distances et conserve des annotations à côté de chaque scan.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>The Tarvenix Software Suite registers, models and publishes terrestrial laser scans. This viewer opens the projects that the suite writes.</source>
+        <translation>La Tarvenix Software Suite recale, modélise et publie des scans laser terrestres. Ce visualiseur ouvre les projets que la suite écrit.</translation>
+    </message>
+</context>
+<context>
+    <name>application start up</name>
+    <message>
+        <location filename="../app/main.cpp" line="+71"/>
+        <source>Please specify your user name</source>
+        <translation>Veuillez indiquer votre nom d&apos;utilisateur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>User name:</source>
+        <translation>Nom d&apos;utilisateur :</translation>
     </message>
 </context>
 </TS>
