@@ -307,12 +307,12 @@
     <message>
         <location line="+17"/>
         <source>The lock file %1 could not be deleted.</source>
-        <translation>Le fichier de verrou %1 n&apos;a pas pu être supprimé.</translation>
+        <translation>Le fichier de verrouillage %1 n&apos;a pas pu être supprimé.</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Lock file %1 deleted by the user.</source>
-        <translation>Fichier de verrou %1 supprimé par l&apos;utilisateur.</translation>
+        <translation>Fichier de verrouillage %1 supprimé par l&apos;utilisateur.</translation>
     </message>
     <message>
         <location line="+34"/>

@@ -15,7 +15,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-
 using namespace TVX::CORE;
 using namespace TVX::TEST;
 
@@ -43,7 +42,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("annotationPath");
 
         QTest::newRow("only the last extension goes") << "/data/a.b.tvx" << "/data/a.b-viewer.xml";
-        QTest::newRow("no extension") << "/data/north" << "/data/north-viewer.xml";
         QTest::newRow("dotted folder") << "/data/v1.2/north.tvx" << "/data/v1.2/north-viewer.xml";
         QTest::newRow("relative path made absolute") << "scans/north.tvx" << QDir::current().absoluteFilePath(QStringLiteral("scans/north-viewer.xml"));
     }

@@ -173,10 +173,6 @@ private Q_SLOTS:
         QTest::newRow("rectangle with five numbers")
             << viewerDocument("   <rectangleitem>\n      <rectangle>1, 2, 3, 4, 5</rectangle>\n   </rectangleitem>\n")
             << invalidCount + "\nLine 5, column 42" << QStringList();
-        // "      <position>1, 2</position>" is 6 + 10 + 4 + 11 = 31 characters long.
-        QTest::newRow("spherical text with two numbers")
-            << viewerDocument("   <textitem_spherical>\n      <position>1, 2</position>\n   </textitem_spherical>\n")
-            << invalidCount + "\nLine 5, column 31" << QStringList();
         // "      </ellipse_3d>" is 19 characters long.
         QTest::newRow("ellipse_3d with eight numbers")
             << viewerDocument(firstPolygon + "   <ellipseitem_spherical>\n      <ellipse_3d>\n         1, 0, 0,\n         0, 1, 0,\n"

@@ -123,10 +123,8 @@ private Q_SLOTS:
               {"global/stationMarksMaxDist", "far"},
               {"global/default_view_type", "spherical"}},
              defaults},
-            {"view type off the list", {{"global/default_view_type", 7}}, defaults},
             {"not a number", {{"global/stationMarksMaxDist", "nan"}}, defaults},
             {"codes compared exactly", {{"global/nonDefaultLanguage", "de"}}, defaults},
-            {"German", {{"global/nonDefaultLanguage", "DE"}}, {true, 1, true, 0.2, 15.0, 0}},
             {"beyond the box range is held at its end", {{"global/stationMarksMaxDist", 1e6}},
              {true, 0, true, 0.2, 9999.99, 0}},
         };

@@ -101,38 +101,13 @@ QByteArray lengthHeader(quint32 length)
     return header;
 }
 
-struct DeliveryRow {
-    QStringList messages;
-};
-
-struct ActivationRow {
-    QStringList ownerOptions;
-    QString windowState; // as the owner finds its window when the message is emitted
-};
-
 enum class Leftover { KilledOwner, PlainFile };
-
 enum class Owner { None, ThisObject, Silent };
-
-struct FailedSendRow {
-    Owner owner{Owner::None};
-    int timeout{0};
-    qint64 minMs{0};
-    qint64 maxMs{0};
-};
-
-struct MalformedRow {
-    QByteArray bytes;
-    bool ownerHangsUp{false};
-};
 
 } // namespace
 
-Q_DECLARE_METATYPE(DeliveryRow)
-Q_DECLARE_METATYPE(ActivationRow)
 Q_DECLARE_METATYPE(Leftover)
-Q_DECLARE_METATYPE(FailedSendRow)
-Q_DECLARE_METATYPE(MalformedRow)
+Q_DECLARE_METATYPE(Owner)
 
 class SingleApplicationTest : public QObject
 {
@@ -143,42 +118,43 @@ private slots:
 
     void deliversMessagesInOrder_data()
     {
-        QTest::addColumn<DeliveryRow>("row");
-        QTest::newRow("wake up only") << DeliveryRow{{QStringLiteral("WAKE_UP")}};
+        QTest::addColumn<QStringList>("messages");
         QTest::newRow("wake up, then a path with blanks and umlauts")
-            << DeliveryRow{{QStringLiteral("WAKE_UP"), QStringLiteral("OPEN_VIEW /home/jörg/Scans Nord/tvx.prj")}};
-        QTest::newRow("empty message") << DeliveryRow{{QString()}};
+            << QStringList{QStringLiteral("WAKE_UP"), QStringLiteral("OPEN_VIEW /home/jörg/Scans Nord/tvx.prj")};
+        QTest::newRow("empty message") << QStringList{QString()};
         // 60000 × 'ä' = 120000 UTF-8 bytes, more than one read brings in.
-        QTest::newRow("long message") << DeliveryRow{{QString(60000, QChar(0x00E4)), QStringLiteral("after")}};
+        QTest::newRow("long message") << QStringList{QString(60000, QChar(0x00E4)), QStringLiteral("after")};
     }
 
     void deliversMessagesInOrder()
     {
-        QFETCH(DeliveryRow, row);
+        QFETCH(QStringList, messages);
         LocalInstancePeer owner(uniqueId());
         QVERIFY(!owner.isRunning());
         QVERIFY(owner.isOwner());
         QSignalSpy received(&owner, &LocalInstancePeer::messageReceived);
 
-        QCOMPARE(runSender(owner.id(), row.messages), 0);
-        QCOMPARE(received.count(), row.messages.size());
-        for (int i = 0; i < row.messages.size(); ++i)
-            QCOMPARE(received.at(i).at(0).toString(), row.messages.at(i));
+        QCOMPARE(runSender(owner.id(), messages), 0);
+        QStringList heard;
+        for (const QList<QVariant>& arguments : std::as_const(received))
+            heard << arguments.at(0).toString();
+        QCOMPARE(heard, messages);
     }
 
     void applicationActivatesItsWindow_data()
     {
-        QTest::addColumn<ActivationRow>("row");
-        QTest::newRow("activation on message") << ActivationRow{{}, QStringLiteral("restored")};
-        QTest::newRow("activation switched off")
-            << ActivationRow{{QStringLiteral("no-activate")}, QStringLiteral("minimised")};
+        QTest::addColumn<QStringList>("ownerOptions");
+        QTest::addColumn<QString>("windowState"); // as the owner finds its window when the message is emitted
+        QTest::newRow("activation on message") << QStringList() << QStringLiteral("restored");
+        QTest::newRow("activation switched off") << QStringList{QStringLiteral("no-activate")} << QStringLiteral("minimised");
     }
 
     void applicationActivatesItsWindow()
     {
-        QFETCH(ActivationRow, row);
+        QFETCH(QStringList, ownerOptions);
+        QFETCH(QString, windowState);
         const QString id = uniqueId();
-        OwnerProcess owner(id, row.ownerOptions);
+        OwnerProcess owner(id, ownerOptions);
         QCOMPARE(owner.readLine(), QStringLiteral("primary"));
 
         LocalInstancePeer sender(id);
@@ -187,7 +163,7 @@ private slots:
         const QStringList messages{QStringLiteral("WAKE_UP"), QStringLiteral("OPEN_VIEW /data/tvx.prj")};
         for (const QString& message : messages) {
             QVERIFY(sender.sendMessage(message, 5000));
-            QCOMPARE(owner.readLine(), row.windowState + QLatin1Char(' ') + message);
+            QCOMPARE(owner.readLine(), windowState + QLatin1Char(' ') + message);
         }
     }
 
@@ -237,42 +213,49 @@ private slots:
 
     void sendFailsWithoutAcknowledgement_data()
     {
-        QTest::addColumn<FailedSendRow>("row");
-        QTest::newRow("no owner") << FailedSendRow{Owner::None, 5000, 0, 1000};
-        QTest::newRow("this object is the owner") << FailedSendRow{Owner::ThisObject, 5000, 0, 1000};
+        QTest::addColumn<Owner>("owner");
+        QTest::addColumn<int>("timeout");
+        QTest::addColumn<qint64>("minMs");
+        QTest::addColumn<qint64>("maxMs");
+        QTest::newRow("no owner") << Owner::None << 5000 << qint64(0) << qint64(1000);
+        QTest::newRow("this object is the owner") << Owner::ThisObject << 5000 << qint64(0) << qint64(1000);
         // The timer's granularity allows a few ms less than asked for.
-        QTest::newRow("owner never acknowledges") << FailedSendRow{Owner::Silent, 300, 290, 4000};
+        QTest::newRow("owner never acknowledges") << Owner::Silent << 300 << qint64(290) << qint64(4000);
     }
 
     void sendFailsWithoutAcknowledgement()
     {
-        QFETCH(FailedSendRow, row);
+        QFETCH(Owner, owner);
+        QFETCH(int, timeout);
+        QFETCH(qint64, minMs);
+        QFETCH(qint64, maxMs);
         LocalInstancePeer peer(uniqueId());
         QLocalServer silent;
-        if (row.owner == Owner::ThisObject)
+        if (owner == Owner::ThisObject)
             QVERIFY(!peer.isRunning());
-        if (row.owner == Owner::Silent)
+        if (owner == Owner::Silent)
             QVERIFY(silent.listen(peer.socketPath()));
 
         QElapsedTimer clock;
         clock.start();
-        QVERIFY(!peer.sendMessage(QStringLiteral("WAKE_UP"), row.timeout));
+        QVERIFY(!peer.sendMessage(QStringLiteral("WAKE_UP"), timeout));
         const qint64 elapsed = clock.elapsed();
-        QVERIFY2(elapsed >= row.minMs && elapsed <= row.maxMs, qPrintable(QString::number(elapsed)));
+        QVERIFY2(elapsed >= minMs && elapsed <= maxMs, qPrintable(QString::number(elapsed)));
     }
 
     void malformedFramesAreDropped_data()
     {
-        QTest::addColumn<MalformedRow>("row");
-        QTest::newRow("length beyond the limit")
-            << MalformedRow{lengthHeader(LocalInstancePeer::maxMessageBytes + 1) + "abc", true};
-        QTest::newRow("body shorter than announced") << MalformedRow{lengthHeader(10) + "abc", false};
-        QTest::newRow("header cut short") << MalformedRow{lengthHeader(3).left(2), false};
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<bool>("ownerHangsUp");
+        QTest::newRow("length beyond the limit") << lengthHeader(LocalInstancePeer::maxMessageBytes + 1) + "abc" << true;
+        QTest::newRow("body shorter than announced") << lengthHeader(10) + "abc" << false;
+        QTest::newRow("header cut short") << lengthHeader(3).left(2) << false;
     }
 
     void malformedFramesAreDropped()
     {
-        QFETCH(MalformedRow, row);
+        QFETCH(QByteArray, bytes);
+        QFETCH(bool, ownerHangsUp);
         LocalInstancePeer owner(uniqueId());
         QVERIFY(!owner.isRunning());
         QSignalSpy received(&owner, &LocalInstancePeer::messageReceived);
@@ -281,9 +264,9 @@ private slots:
         QSignalSpy hungUp(&raw, &QLocalSocket::disconnected);
         raw.connectToServer(owner.socketPath());
         QVERIFY(raw.waitForConnected(1000));
-        raw.write(row.bytes);
+        raw.write(bytes);
         raw.flush();
-        if (row.ownerHangsUp)
+        if (ownerHangsUp)
             QVERIFY(hungUp.wait(5000));
         else
             raw.disconnectFromServer();

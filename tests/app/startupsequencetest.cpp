@@ -140,7 +140,6 @@ private Q_SLOTS:
         QTest::newRow("no keys: the system's") << QVariant() << QVariant() << "pt_BR";
         QTest::newRow("default followed, other key ignored") << QVariant(true) << QVariant("FR") << "pt_BR";
         QTest::newRow("German") << QVariant(false) << QVariant("DE") << "de_DE";
-        QTest::newRow("Spanish") << QVariant(false) << QVariant("ES") << "es_ES";
         QTest::newRow("lower case is not a code") << QVariant(false) << QVariant("de") << "";
         QTest::newRow("English is untranslated") << QVariant(false) << QVariant("EN") << "";
         QTest::newRow("no language key") << QVariant(false) << QVariant() << "";

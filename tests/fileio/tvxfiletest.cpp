@@ -234,6 +234,41 @@ private Q_SLOTS:
             QVERIFY(std::abs(xyz[i] - cloud[i]) < 1e-5f);
     }
 
+    // Only the cells on the step are decoded, so their points must come out exactly as the full
+    // tiles give them, whatever the step's phase against the tiles (23 × 17 cells in tiles of 4).
+    void extractionDecodesTheStepOnly_data()
+    {
+        QTest::addColumn<quint32>("step");
+        for (const quint32 step : {1u, 3u, 5u, 8u, 9u, 40u})
+            QTest::addRow("step %u", step) << step;
+    }
+
+    void extractionDecodesTheStepOnly()
+    {
+        QFETCH(quint32, step);
+        QTemporaryDir dir;
+        TVXFile file(writePatternScan(dir.path(), QStringLiteral("stepped"), 23, 17, 4, AllChannels));
+        QVERIFY(file.open() && file.readHeader());
+        file.close();
+        std::vector<float> expected;
+        TVXFileTile tile;
+        for (quint32 tc = 0; tc < 6; ++tc) {
+            for (quint32 tr = 0; tr < 5; ++tr) {
+                QVERIFY(file.readTile(tc, tr, tile));
+                for (quint32 c = tile.firstColumn; c <= tile.lastColumn; ++c)
+                    for (quint32 r = tile.firstRow; r <= tile.lastRow; ++r)
+                        if (c % step == 0 && r % step == 0) {
+                            const Vector3d& p = tile.points[tile.indexOf(c, r)];
+                            expected.insert(expected.end(), {float(p.x), float(p.y), float(p.z)});
+                        }
+            }
+        }
+        std::vector<float> xyz;
+        QVERIFY(file.extractPointCloud(step, xyz));
+        QCOMPARE(xyz.size(), expected.size());
+        QVERIFY(xyz == expected);
+    }
+
     void shortDataFile()
     {
         QTemporaryDir dir;

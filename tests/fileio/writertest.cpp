@@ -15,6 +15,8 @@
 #include <QTest>
 #include <QUuid>
 
+#include <limits>
+
 using namespace TVX::CORE;
 using namespace TVX::TEST;
 
@@ -129,6 +131,52 @@ private Q_SLOTS:
         QCOMPARE(file.sceneGraph()->itemCount(), 5u);
         QCOMPARE(std::dynamic_pointer_cast<TVXSSimpleText>(file.sceneItems().items[3])->offset(), QPointF(-1, 2));
         QCOMPARE(file.sceneItems().items[4]->data().numberedValues, itemData(7).numberedValues);
+    }
+
+    // Asked for, the box is that of the points the reader decodes from the records, cells without
+    // return left out; with none at all it stays empty.
+    void measuredBoundingBox_data()
+    {
+        QTest::addColumn<bool>("returns");
+        QTest::newRow("pattern cells") << true;
+        QTest::newRow("no return at all") << false;
+    }
+
+    void measuredBoundingBox()
+    {
+        QFETCH(bool, returns);
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("boxed.tvx"));
+        TVXFileWriter writer;
+        setGrid(writer.scanInfo(), 10, 7, 4, AllChannels);
+        writer.setCellSource([returns](quint32 c, quint32 r) {
+            TVXFileCell cell = patternCell(c, r);
+            cell.distanceMm = returns ? cell.distanceMm : 0;
+            return cell;
+        });
+        writer.setMeasureBoundingBox(true);
+        QVERIFY(writer.write(path));
+
+        TVXFile file(path);
+        QVERIFY(file.open() && file.readHeader());
+        constexpr double huge = std::numeric_limits<double>::max();
+        Vector3d low(huge, huge, huge), high(-huge, -huge, -huge);
+        TVXFileTile tile;
+        for (quint32 tc = 0; tc < 3; ++tc) {
+            for (quint32 tr = 0; tr < 2; ++tr) {
+                QVERIFY(file.readTile(tc, tr, tile));
+                for (std::size_t i = 0; i < tile.points.size(); ++i) {
+                    if (tile.distances[i] == 0.0)
+                        continue;
+                    const Vector3d& p = tile.points[i];
+                    low = {std::min(low.x, p.x), std::min(low.y, p.y), std::min(low.z, p.z)};
+                    high = {std::max(high.x, p.x), std::max(high.y, p.y), std::max(high.z, p.z)};
+                }
+            }
+        }
+        QCOMPARE(file.scanInfo().boundingBoxMin, low);
+        QCOMPARE(file.scanInfo().boundingBoxMax, high);
+        QCOMPARE(writer.scanInfo().boundingBoxMin, low);
     }
 
     void failures_data()

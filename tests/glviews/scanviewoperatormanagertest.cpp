@@ -1,5 +1,7 @@
 #include "testregistry.h"
 
+#include "fakesphericalview.h"
+
 #include "glviews/areaselectionoperator.h"
 #include "glviews/cameramoveoperator.h"
 #include "glviews/createellipseoperator.h"
@@ -16,7 +18,6 @@
 #include "glviews/scanpointselectionoperator.h"
 #include "glviews/scanviewevent.h"
 #include "glviews/scanviewoperatormanager.h"
-#include "glviews/sphericalviewcontrol.h"
 #include "glviews/zoominoperator.h"
 #include "glviews/zoomoutoperator.h"
 
@@ -102,26 +103,6 @@ struct RecordingFixture {
     ScanViewOperatorManager manager;
 };
 
-class FakeSphericalView : public SphericalViewControl
-{
-public:
-    void rotate(double dx, double dy, double dz) override
-    {
-        // + 0.0 turns -0 into 0 for the log.
-        calls << QStringLiteral("rotate(%1,%2,%3)").arg(dx + 0.0).arg(dy + 0.0).arg(dz + 0.0);
-    }
-    void zoomIn() override { calls << QStringLiteral("zoomIn"); }
-    void zoomOut() override { calls << QStringLiteral("zoomOut"); }
-    void update() override { calls << QStringLiteral("update"); }
-
-    QStringList calls;
-};
-
-struct KeyRow {
-    int qtKey;
-    quint32 code;
-};
-
 struct ConversionRow {
     std::function<ScanViewEvent()> convert;
     ScanViewEvent expected;
@@ -148,12 +129,6 @@ bool is(const ScanViewOperator* op)
     return dynamic_cast<const T*>(op) != nullptr;
 }
 
-struct TableRow {
-    quint32 mode;
-    std::function<bool(const ScanViewOperator*)> isOwnOperator;
-    bool lensEnabled;
-};
-
 struct CameraRow {
     quint32 viewType;
     std::vector<ScanViewEvent> events;
@@ -163,11 +138,9 @@ struct CameraRow {
 
 } // namespace
 
-Q_DECLARE_METATYPE(KeyRow)
 Q_DECLARE_METATYPE(ConversionRow)
 Q_DECLARE_METATYPE(ModeRow)
 Q_DECLARE_METATYPE(DispatchRow)
-Q_DECLARE_METATYPE(TableRow)
 Q_DECLARE_METATYPE(CameraRow)
 
 class ScanViewOperatorManagerTest : public QObject
@@ -177,33 +150,31 @@ class ScanViewOperatorManagerTest : public QObject
 private Q_SLOTS:
     void keyCodes_data()
     {
-        QTest::addColumn<KeyRow>("row");
-        QTest::newRow("digit 0") << KeyRow{Qt::Key_0, 1};
-        QTest::newRow("digit 9") << KeyRow{Qt::Key_9, 10};
-        QTest::newRow("A") << KeyRow{Qt::Key_A, 11};
-        QTest::newRow("M, the 13th letter: 10 + 13") << KeyRow{Qt::Key_M, 23};
-        QTest::newRow("Z") << KeyRow{Qt::Key_Z, 36};
-        QTest::newRow("space") << KeyRow{Qt::Key_Space, 37};
-        QTest::newRow("Escape") << KeyRow{Qt::Key_Escape, 38};
-        QTest::newRow("F1") << KeyRow{Qt::Key_F1, 39};
-        QTest::newRow("F12") << KeyRow{Qt::Key_F12, 50};
-        QTest::newRow("F13 is past the table") << KeyRow{Qt::Key_F13, 0};
-        QTest::newRow("Shift") << KeyRow{Qt::Key_Shift, 0x10000000};
-        QTest::newRow("Alt") << KeyRow{Qt::Key_Alt, 0x10000002};
-        QTest::newRow("Meta") << KeyRow{Qt::Key_Meta, 0x10000003};
-        QTest::newRow("AltGr, as Meta") << KeyRow{Qt::Key_AltGr, 0x10000003};
-        QTest::newRow("Delete") << KeyRow{Qt::Key_Delete, 0x10000100};
-        QTest::newRow("Control, left out on purpose") << KeyRow{Qt::Key_Control, 0};
-        QTest::newRow("Return") << KeyRow{Qt::Key_Return, 0};
-        QTest::newRow("Backspace") << KeyRow{Qt::Key_Backspace, 0};
-        QTest::newRow("slash, between digits and letters") << KeyRow{Qt::Key_Slash, 0};
-        QTest::newRow("at sign, just before A") << KeyRow{Qt::Key_At, 0};
+        QTest::addColumn<int>("qtKey");
+        QTest::addColumn<quint32>("code");
+        QTest::newRow("digit 0") << int(Qt::Key_0) << 1u;
+        QTest::newRow("digit 9") << int(Qt::Key_9) << 10u;
+        QTest::newRow("A") << int(Qt::Key_A) << 11u;
+        QTest::newRow("Z") << int(Qt::Key_Z) << 36u;
+        QTest::newRow("space") << int(Qt::Key_Space) << 37u;
+        QTest::newRow("Escape") << int(Qt::Key_Escape) << 38u;
+        QTest::newRow("F1") << int(Qt::Key_F1) << 39u;
+        QTest::newRow("F12") << int(Qt::Key_F12) << 50u;
+        QTest::newRow("F13 is past the table") << int(Qt::Key_F13) << 0u;
+        QTest::newRow("Shift") << int(Qt::Key_Shift) << 0x10000000u;
+        QTest::newRow("Alt") << int(Qt::Key_Alt) << 0x10000002u;
+        QTest::newRow("AltGr, as Meta") << int(Qt::Key_AltGr) << 0x10000003u;
+        QTest::newRow("Delete") << int(Qt::Key_Delete) << 0x10000100u;
+        QTest::newRow("Control, left out on purpose") << int(Qt::Key_Control) << 0u;
+        QTest::newRow("slash, between digits and letters") << int(Qt::Key_Slash) << 0u;
+        QTest::newRow("at sign, just before A") << int(Qt::Key_At) << 0u;
     }
 
     void keyCodes()
     {
-        QFETCH(KeyRow, row);
-        QCOMPARE(scanViewKeyCode(row.qtKey), row.code);
+        QFETCH(int, qtKey);
+        QFETCH(quint32, code);
+        QCOMPARE(scanViewKeyCode(qtKey), code);
     }
 
     void recordsOfQtEvents_data()
@@ -236,8 +207,6 @@ private Q_SLOTS:
                              E::mouse(E::MouseDoubleClick, 1, 7, 8)};
         QTest::newRow("back button press") << ConversionRow{mouse(QEvent::MouseButtonPress, Qt::BackButton, {1, 1}),
                                                             E::mouse(E::MouseButton, 0, 1, 1)};
-        QTest::newRow("move") << ConversionRow{mouse(QEvent::MouseMove, Qt::NoButton, {-3, 40}),
-                                               E::mouse(E::MouseMove, 0, -3, 40)};
         QTest::newRow("wheel towards the user") << ConversionRow{wheel({0, -120}), E::wheel(-120)};
         QTest::newRow("horizontal wheel") << ConversionRow{wheel({240, 0}), E::wheel(240)};
         QTest::newRow("A with Control held")
@@ -305,15 +274,12 @@ private Q_SLOTS:
             << DispatchRow{false, false, 5, button(1), {"a.mousePress", "b.mousePress"}, false};
         QTest::newRow("a mode without a list") << DispatchRow{true, true, 9, button(1), {}, false};
         QTest::newRow("move") << DispatchRow{true, false, 5, move(1, 1), {"a.mouseMove"}, true};
-        QTest::newRow("middle release") << DispatchRow{true, false, 5, button(4), {"a.mouseRelease"}, true};
         QTest::newRow("right press") << DispatchRow{true, false, 5, button(5), {"a.mousePress"}, true};
         QTest::newRow("other button") << DispatchRow{true, false, 5, button(0), {"a.mouseRelease"}, true};
         QTest::newRow("double click")
             << DispatchRow{true, false, 5, E::mouse(E::MouseDoubleClick, 1, 0, 0), {"a.mouseDoubleClick"}, true};
         QTest::newRow("wheel") << DispatchRow{true, false, 5, E::wheel(-120), {"a.wheel"}, true};
         QTest::newRow("key press") << DispatchRow{true, false, 5, E::key(E::KeyPress, 38, false), {"a.keyPress"}, true};
-        QTest::newRow("key release")
-            << DispatchRow{true, false, 5, E::key(E::KeyRelease, 38, true), {"a.keyRelease"}, true};
         QTest::newRow("unknown kind") << DispatchRow{true, true, 5, E::mouse(64, 1, 0, 0), {}, false};
     }
 
@@ -326,55 +292,36 @@ private Q_SLOTS:
         QCOMPARE(f.log, row.log);
     }
 
-    void defaultTable_data()
-    {
-        QTest::addColumn<TableRow>("row");
-        QTest::newRow("1") << TableRow{1, is<ScanPointSelectionOperator>, true};
-        QTest::newRow("3") << TableRow{3, is<AreaSelectionOperator>, false};
-        QTest::newRow("16") << TableRow{16, is<ZoomInOperator>, false};
-        QTest::newRow("17") << TableRow{17, is<ZoomOutOperator>, false};
-        QTest::newRow("32") << TableRow{32, is<CreatePolygonOperator>, true};
-        QTest::newRow("33") << TableRow{33, is<ModifyPolygonOperator>, true};
-        QTest::newRow("34") << TableRow{34, is<CreateEllipseOperator>, true};
-        QTest::newRow("35") << TableRow{35, is<ModifyEllipseOperator>, true};
-        QTest::newRow("36") << TableRow{36, is<CreateRectangleOperator>, true};
-        QTest::newRow("37") << TableRow{37, is<ModifyRegtangleOperator>, true};
-        QTest::newRow("38") << TableRow{38, is<CreateMeasurmenttemOperator>, true};
-        QTest::newRow("39") << TableRow{39, is<ModifyMeasurementtemOperator>, true};
-        QTest::newRow("40") << TableRow{40, is<CreateTextItemOperator>, true};
-        QTest::newRow("41") << TableRow{41, is<ModifyTextItemOperator>, true};
-        QTest::newRow("4101") << TableRow{4101, is<ScanPointSelectionOperator>, true};
-        QTest::newRow("4102") << TableRow{4102, is<ObjectSelectionOperator>, false};
-    }
-
+    // Each mode lists its own operator, then the one camera operator; every class exists once.
     void defaultTable()
     {
-        QFETCH(TableRow, row);
-        const auto manager = ScanViewOperatorManager::createDefault();
-        const auto list = manager->operators(row.mode);
-        QCOMPARE(list.size(), std::size_t(2));
-        QVERIFY(row.isOwnOperator(list[0].get()));
-        QCOMPARE(is<LensEnabledOperator>(list[0].get()), row.lensEnabled);
-        QVERIFY(is<CameraMoveOperator>(list[1].get()));
-        QCOMPARE(manager->operatorFor(row.mode), list[0]);
-    }
-
-    void defaultTableSharesItsOperators()
-    {
+        const std::pair<quint32, std::function<bool(const ScanViewOperator*)>> table[] = {
+            {1, is<ScanPointSelectionOperator>},     {3, is<AreaSelectionOperator>},
+            {16, is<ZoomInOperator>},                {17, is<ZoomOutOperator>},
+            {32, is<CreatePolygonOperator>},         {33, is<ModifyPolygonOperator>},
+            {34, is<CreateEllipseOperator>},         {35, is<ModifyEllipseOperator>},
+            {36, is<CreateRectangleOperator>},       {37, is<ModifyRegtangleOperator>},
+            {38, is<CreateMeasurmenttemOperator>},   {39, is<ModifyMeasurementtemOperator>},
+            {40, is<CreateTextItemOperator>},        {41, is<ModifyTextItemOperator>},
+            {4101, is<ScanPointSelectionOperator>},  {4102, is<ObjectSelectionOperator>},
+        };
         const auto manager = ScanViewOperatorManager::createDefault();
         QCOMPARE(manager->currentMode(), 0u);
-        const quint32 modes[] = {1, 3, 16, 17, 32, 33, 34, 35, 36, 37, 38, 39, 40, 41, 4101, 4102};
         const auto camera = manager->operators(1).at(1);
+        QVERIFY(is<CameraMoveOperator>(camera.get()));
         std::set<const ScanViewOperator*> operators;
-        for (const quint32 mode : modes) {
+        for (const auto& [mode, isOwnOperator] : table) {
             const auto list = manager->operators(mode);
-            QCOMPARE(list.at(1), camera);
-            operators.insert(list.at(0).get());
-            operators.insert(list.at(1).get());
+            QCOMPARE(list.size(), std::size_t(2));
+            QVERIFY2(isOwnOperator(list[0].get()), qPrintable(QString::number(mode)));
+            // The lens goes with the selection of scan points and with every create and modify mode.
+            QCOMPARE(is<LensEnabledOperator>(list[0].get()), mode == 1 || mode == 4101 || (mode >= 32 && mode <= 41));
+            QCOMPARE(list[1], camera);
+            QCOMPARE(manager->operatorFor(mode), list[0]);
+            operators.insert(list[0].get());
         }
-        // One object per class: the sixteen classes of the table, scan point selection shared by 1 and 4101.
-        QCOMPARE(operators.size(), std::size_t(16));
-        QCOMPARE(manager->operatorFor(1), manager->operatorFor(4101));
+        // Fifteen own operators, scan point selection shared by 1 and 4101, and the camera.
+        QCOMPARE(operators.size(), std::size_t(15));
         for (const quint32 untabled : {0u, 2u, 42u, 4100u})
             QVERIFY(manager->operators(untabled).empty());
     }
@@ -383,10 +330,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<CameraRow>("row");
         using E = ScanViewEvent;
-        const quint32 none = 0, planar = 1, spherical = 2, cloud = 3;
+        const quint32 planar = 1, spherical = 2, cloud = 3;
         QTest::newRow("left press, spherical view") << CameraRow{spherical, {button(1)}, {true}, {}};
         QTest::newRow("left press, planar view") << CameraRow{planar, {button(1)}, {true}, {}};
-        QTest::newRow("left press, no view") << CameraRow{none, {button(1)}, {true}, {}};
         QTest::newRow("left drag does not turn")
             << CameraRow{spherical, {button(1, 10, 10), move(20, 30), button(2, 20, 30)}, {true, false, true}, {}};
         QTest::newRow("left release, point cloud view") << CameraRow{cloud, {button(1), button(2)}, {true, true}, {}};
@@ -398,8 +344,6 @@ private Q_SLOTS:
                          {"rotate(-2,0,-1)", "rotate(1,0,1)"}};
         QTest::newRow("middle drag over a planar view")
             << CameraRow{planar, {button(3), move(8, 8), button(4, 8, 8)}, {false, false, false}, {}};
-        QTest::newRow("middle drag over a point cloud view")
-            << CameraRow{cloud, {button(3), move(8, 8), button(4, 8, 8)}, {false, false, false}, {}};
         QTest::newRow("no turn after the middle release")
             << CameraRow{spherical, {button(3), button(4), move(8, 8)}, {false, false, false}, {}};
         QTest::newRow("right drag is never consumed")
@@ -409,7 +353,6 @@ private Q_SLOTS:
         QTest::newRow("wheel -120 zooms out") << CameraRow{spherical, {E::wheel(-120)}, {true}, {"zoomOut"}};
         QTest::newRow("wheel 0") << CameraRow{spherical, {E::wheel(0)}, {false}, {}};
         QTest::newRow("wheel over a planar view") << CameraRow{planar, {E::wheel(120)}, {false}, {}};
-        QTest::newRow("wheel, no view") << CameraRow{none, {E::wheel(-120)}, {false}, {}};
         QTest::newRow("double click and keys are left alone")
             << CameraRow{spherical,
                          {E::mouse(E::MouseDoubleClick, 1, 0, 0), E::key(E::KeyPress, 0x10000000, true)},

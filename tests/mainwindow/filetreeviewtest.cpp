@@ -112,7 +112,7 @@ struct MenuCase {
     QStringList entries;
 };
 
-enum class Gesture { Return, Enter, DoubleClick, DoubleClickOnCheckBox };
+enum class Gesture { Return, Enter, DoubleClick };
 
 struct OpenCase {
     QString path;
@@ -152,10 +152,8 @@ private Q_SLOTS:
             << MenuCase{true, {"scans/A", "scans/s"}, {addScans, addFolder, remove}};
         QTest::newRow("read-only, scans") << MenuCase{false, {"scans/s", "scans/A/a1"}, viewEntries};
         QTest::newRow("nothing selected") << MenuCase{true, {}, {addScans, addFolder}};
-        QTest::newRow("read-only, nothing selected") << MenuCase{false, {}, {}};
         QTest::newRow("one folder")
             << MenuCase{true, {"scans/B"}, {addScans, addFolder, rename, remove, expand, collapse}};
-        QTest::newRow("two folders") << MenuCase{true, {"scans/A", "scans/B"}, {addScans, addFolder, remove, expand, collapse}};
         QTest::newRow("read-only, one folder") << MenuCase{false, {"scans/A"}, {expand, collapse}};
         QTest::newRow("scans only")
             << MenuCase{true, {"scans/t", "scans/B/b1"}, QStringList{addScans, addFolder, remove} + viewEntries};
@@ -230,7 +228,6 @@ private Q_SLOTS:
         QTest::newRow("double click on a scan") << OpenCase{"scans/B/b1", Gesture::DoubleClick, {11}};
         QTest::newRow("Return on a folder") << OpenCase{"scans/A", Gesture::Return, {}};
         QTest::newRow("double click on a folder") << OpenCase{"scans/B", Gesture::DoubleClick, {}};
-        QTest::newRow("double click on a check box") << OpenCase{"scans/t", Gesture::DoubleClickOnCheckBox, {}};
     }
 
     void openingGestures()
@@ -249,12 +246,6 @@ private Q_SLOTS:
         case Gesture::DoubleClick:
             doubleClick(f, f.centreOf(c.path));
             break;
-        case Gesture::DoubleClickOnCheckBox: {
-            const QPoint box = checkBoxOf(f, index);
-            QVERIFY(!box.isNull());
-            doubleClick(f, box);
-            break;
-        }
         }
         QList<quint32> requested;
         for (const QList<QVariant>& arguments : std::as_const(spy))
@@ -355,22 +346,6 @@ private:
         QTest::mouseClick(f.view.viewport(), Qt::LeftButton, {}, at);
         QTest::mouseDClick(f.view.viewport(), Qt::LeftButton, {}, at);
         QTest::mouseRelease(f.view.viewport(), Qt::LeftButton, {}, at);
-    }
-
-    // Found the way a person would: the spot left in the row where a click toggles the check box.
-    static QPoint checkBoxOf(Fixture& f, const QModelIndex& index)
-    {
-        const QRect row = f.view.visualRect(index);
-        for (int x = row.left(); x < row.left() + 40; ++x) {
-            const QPoint spot(x, row.center().y());
-            const QVariant before = index.data(Qt::CheckStateRole);
-            QTest::mouseClick(f.view.viewport(), Qt::LeftButton, {}, spot);
-            if (index.data(Qt::CheckStateRole) != before) {
-                QTest::mouseClick(f.view.viewport(), Qt::LeftButton, {}, spot);
-                return spot;
-            }
-        }
-        return {};
     }
 };
 

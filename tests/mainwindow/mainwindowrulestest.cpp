@@ -24,7 +24,6 @@ private Q_SLOTS:
         const QStringList ten{"a", "b", "c", "d", "e", "f", "g", "h", "i", "j"};
         QTest::newRow("new path drops the tenth") << ten << "n" << QStringList{"n", "a", "b", "c", "d", "e", "f", "g", "h", "i"};
         QTest::newRow("known path moves to the top") << ten << "e" << QStringList{"e", "a", "b", "c", "d", "f", "g", "h", "i", "j"};
-        QTest::newRow("top stays") << ten << "a" << ten;
         QTest::newRow("into an empty list") << QStringList(10, QString()) << "n"
                                             << QStringList{"n", "", "", "", "", "", "", "", "", ""};
     }
@@ -56,10 +55,7 @@ private Q_SLOTS:
         settings.setValue(QStringLiteral("global/recently_used_projectfiles/1"), QStringList{"x"});
         RecentProjectList list;
         list.load(settings);
-        QCOMPARE(list.at(0), QString());
-        QCOMPARE(list.at(1), QString());
-        QCOMPARE(list.at(-1), QString());
-        QCOMPARE(list.at(10), QString());
+        QCOMPARE(QStringList({list.at(0), list.at(1), list.at(-1), list.at(10)}), QStringList(4, QString()));
         settings.clear();
     }
 

@@ -20,7 +20,6 @@
 
 #include <cmath>
 #include <optional>
-#include <vector>
 
 using namespace TVX::CORE;
 using Col = PointInfoTableModel::Column;
@@ -45,7 +44,8 @@ struct Fixture {
     PointInfoTableModel& model = *widget.model();
     PointInfoTableView& view = *widget.view();
 
-    explicit Fixture(std::initializer_list<PointInfoEntry> points = {})
+    explicit Fixture(std::initializer_list<PointInfoEntry> points = {point(1, 2, 3, "a.tvx"), point(1, 2, 3, "b.tvx"),
+                                                                     point(1, 2, 3, "c.tvx")})
     {
         for (const auto& p : points)
             model.appendPoint(p);
@@ -67,88 +67,18 @@ struct Fixture {
             files << model.pointAt(row).filePath.section(QLatin1Char('/'), -1);
         return files;
     }
-    QString cell(int row, int column) const { return model.index(row, column).data().toString(); }
-    bool isMagenta(int row) const
+    // z, distance and whether every cell is magenta.
+    QString zOf(int row) const
     {
-        for (int column = 0; column < PointInfoTableModel::visibleColumnCount; ++column) {
-            if (model.index(row, column).data(Qt::ForegroundRole).value<QBrush>() != QBrush(Qt::magenta))
-                return false;
-        }
-        return true;
+        bool magenta = true;
+        for (int column = 0; column < PointInfoTableModel::visibleColumnCount; ++column)
+            magenta = magenta && model.index(row, column).data(Qt::ForegroundRole).value<QBrush>() == QBrush(Qt::magenta);
+        return model.index(row, Col::ZCol).data().toString() + QLatin1Char(' ')
+               + model.index(row, Col::DistanceCol).data().toString() + (magenta ? " magenta" : "");
     }
 };
 
-const std::initializer_list<PointInfoEntry> abc = {point(1, 2, 3, "a.tvx"), point(1, 2, 3, "b.tvx"),
-                                                   point(1, 2, 3, "c.tvx")};
-
-struct DisplayCase {
-    const char* name;
-    PointInfoEntry entry;
-    int column;
-    QString shown;
-};
-
-struct ZCase {
-    const char* name;
-    QString entry;
-    std::optional<double> answer; // nothing: the dialog was cancelled
-    QString z;                    // of the point (3, 4, 10)
-    QString distance;
-    bool replaced;
-    double stored; // 2.25 before
-};
-
-struct MenuCase {
-    const char* name;
-    int section;
-    QStringList entries;
-};
-
-struct ClickCase {
-    const char* name;
-    int shownRow;
-    int column;
-    QStringList remaining;
-};
-
-struct RemoveCase {
-    const char* name;
-    int row;
-    int count;
-    QStringList remaining; // the rows are a, b and c; empty name: refused
-};
-
-// Steps: c = clearAllItems(), u = doUndo(), n = append "n.tvx"; the table starts with a and b.
-struct UndoCase {
-    const char* name;
-    const char* steps;
-    QList<bool> announced;
-    QStringList rows;
-};
-
-template <typename Case>
-void addRows(const std::vector<Case>& cases)
-{
-    QTest::addColumn<Case>("c");
-    for (const Case& c : cases)
-        QTest::newRow(c.name) << c;
-}
-
-PointInfoEntry withReflectance(quint16 reflectance)
-{
-    PointInfoEntry entry = point(0, 0, 0);
-    entry.reflectance = reflectance;
-    return entry;
-}
-
 } // namespace
-
-Q_DECLARE_METATYPE(DisplayCase)
-Q_DECLARE_METATYPE(ZCase)
-Q_DECLARE_METATYPE(MenuCase)
-Q_DECLARE_METATYPE(ClickCase)
-Q_DECLARE_METATYPE(RemoveCase)
-Q_DECLARE_METATYPE(UndoCase)
 
 class PointInfoTableTest : public QObject
 {
@@ -158,30 +88,24 @@ private Q_SLOTS:
     void init() { QSettings().remove(zKey); }
     void cleanup() { QSettings().remove(zKey); }
 
-    void cellsAreFormatted_data()
-    {
-        addRows<DisplayCase>({
-            {"reflectance 7 padded to five", withReflectance(7), Col::ReflectanceCol, "    7"},
-            {"x rounded to mm", point(1.23456, 0, 0), Col::XCol, "1.235"},
-            {"negative y with zeros", point(0, -2.5, 0), Col::YCol, "-2.500"},
-            {"distance", point(1, 2, 3), Col::DistanceCol, "3.742"}, // sqrt(14) = 3.7416…
-            {"file name only", point(0, 0, 0, "Station 7.tvx"), Col::FileNameCol, "Station 7.tvx"},
-        });
-    }
-
     void cellsAreFormatted()
     {
-        QFETCH(DisplayCase, c);
+        PointInfoEntry entry = point(1.23456, -2.5, 0, QStringLiteral("Station 7.tvx"));
+        entry.reflectance = 7;
+        entry.distance = std::sqrt(14.0); // 3.7416…
         PointInfoTableModel model;
         model.appendPoint(point(9, 9, 9));
-        model.appendPoint(c.entry);
-        QCOMPARE(model.index(1, c.column).data().toString(), c.shown);
+        model.appendPoint(entry);
+        QStringList cells;
+        for (int column : {Col::XCol, Col::YCol, Col::ReflectanceCol, Col::DistanceCol, Col::FileNameCol})
+            cells << model.index(1, column).data().toString();
+        QCOMPARE(cells, QStringList({"1.235", "-2.500", "    7", "3.742", "Station 7.tvx"}));
         QCOMPARE(model.headerData(1, Qt::Vertical).toInt(), 2);
     }
 
     void viewKeepsItsColumnsAcrossResets()
     {
-        Fixture f(abc);
+        Fixture f;
         const auto check = [&f] {
             QVERIFY(f.view.isColumnHidden(Col::ScanIdCol));
             QVERIFY(!f.view.isColumnHidden(Col::DeleteCol));
@@ -196,41 +120,38 @@ private Q_SLOTS:
         check();
     }
 
+    // The points (3, 4, 10) and (6, 8, 1) with z replaced: distance = sqrt(x² + y² + z²). Every
+    // row changes, not only the selected one.
     void zIsReplacedInEveryRow_data()
     {
-        // The point (3, 4, 10) with z replaced: distance = sqrt(9 + 16 + z²).
-        addRows<ZCase>({
-            {"reset to zero", "Reset z-Coordinate to 0.0", std::nullopt, "0.000", "5.000", true, 2.25},
-            {"set value", "Set Value of z-Coordinate", -12.0, "-12.000", "13.000", true, -12.0},
-            {"set value cancelled", "Set Value of z-Coordinate", std::nullopt, "10.000", "11.180", false, 2.25},
-        });
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<QStringList>("rows");
+        QTest::newRow("reset to zero") << "Reset z-Coordinate to 0.0"
+                                       << QStringList{"0.000 5.000 magenta", "0.000 10.000 magenta"};
+        QTest::newRow("set value cancelled") << "Set Value of z-Coordinate"
+                                             << QStringList{"10.000 11.180", "1.000 10.050"};
     }
 
     void zIsReplacedInEveryRow()
     {
-        QFETCH(ZCase, c);
+        QFETCH(QString, entry);
+        QFETCH(QStringList, rows);
         QSettings().setValue(zKey, 2.25);
         Fixture f({point(3, 4, 10), point(6, 8, 1)});
-        std::vector<double> offered;
-        f.view.setZValueAsker([&](double initial) {
-            offered.push_back(initial);
-            return c.answer;
+        QList<double> offered;
+        f.view.setZValueAsker([&offered](double initial) {
+            offered << initial;
+            return std::optional<double>();
         });
         f.view.selectRow(1);
         const auto menu = f.view.buildHeaderMenu(Col::ZCol);
         for (QAction* action : menu->actions()) {
-            if (action->text() == c.entry)
+            if (action->text() == entry)
                 action->trigger();
         }
-        QCOMPARE(f.cell(0, Col::ZCol), c.z);
-        QCOMPARE(f.cell(0, Col::DistanceCol), c.distance);
-        QCOMPARE(f.isMagenta(0), c.replaced);
-        // Not only the selected row.
-        QCOMPARE(f.isMagenta(1), c.replaced);
-        QCOMPARE(QSettings().value(zKey).toDouble(), c.stored);
-        QCOMPARE(offered.size(), c.entry.startsWith(QLatin1String("Set")) ? 1u : 0u);
-        if (!offered.empty())
-            QCOMPARE(offered.front(), 2.25);
+        QCOMPARE(QStringList({f.zOf(0), f.zOf(1)}), rows);
+        QCOMPARE(QSettings().value(zKey).toDouble(), 2.25);
+        QCOMPARE(offered, entry.startsWith(QLatin1String("Set")) ? QList<double>{2.25} : QList<double>());
     }
 
     void zDialogReadsAPointInAnyLanguage()
@@ -240,80 +161,73 @@ private Q_SLOTS:
             GermanDefault() { QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); }
             ~GermanDefault() { QLocale::setDefault(QLocale::c()); }
         } german;
+        QSettings().setValue(zKey, 2.25);
         Fixture f({point(3, 4, 10)});
-        QString title;
-        QTimer::singleShot(0, this, [&title] {
+        QString seen;
+        QTimer::singleShot(0, this, [&seen] {
             QWidget* dialog = QApplication::activeModalWidget();
-            if (!dialog)
-                return;
-            title = dialog->windowTitle();
-            auto* spin = dialog->findChild<QDoubleSpinBox*>();
+            auto* spin = dialog ? dialog->findChild<QDoubleSpinBox*>() : nullptr;
             if (!spin) {
-                dialog->close();
+                if (dialog)
+                    dialog->close();
                 return;
             }
+            seen = dialog->windowTitle() + QLatin1Char(' ') + QString::number(spin->value());
             spin->selectAll();
             QTest::keyClicks(spin, QStringLiteral("7.25"));
             QTest::keyClick(spin, Qt::Key_Return);
         });
         f.view.setValueForZ();
-        QCOMPARE(title, QStringLiteral("Specify z-Coordinate"));
-        QCOMPARE(f.model.pointAt(0).z, 7.25);
+        QCOMPARE(seen, QStringLiteral("Specify z-Coordinate 2.25"));
+        QCOMPARE(f.zOf(0), QStringLiteral("7.250 8.807 magenta")); // sqrt(9 + 16 + 52.5625) = 8.8070…
         QCOMPARE(QSettings().value(zKey).toDouble(), 7.25);
     }
 
     void headerMenuDependsOnSection_data()
     {
         const QString save = QStringLiteral("Save Entries to File");
-        addRows<MenuCase>({
-            {"column", Col::GridColumnCol, {save}},
-            {"y", Col::YCol, {save}},
-            {"z", Col::ZCol, {save, "Reset z-Coordinate to 0.0", "Set Value of z-Coordinate"}},
-        });
+        QTest::addColumn<int>("section");
+        QTest::addColumn<QStringList>("entries");
+        QTest::newRow("y") << int(Col::YCol) << QStringList{save};
+        QTest::newRow("z") << int(Col::ZCol) << QStringList{save, "Reset z-Coordinate to 0.0", "Set Value of z-Coordinate"};
     }
 
     void headerMenuDependsOnSection()
     {
-        QFETCH(MenuCase, c);
-        Fixture f(abc);
+        QFETCH(int, section);
+        QFETCH(QStringList, entries);
+        Fixture f;
         QHeaderView* header = f.view.horizontalHeader();
-        const QPoint at(header->sectionViewportPosition(c.section) + header->sectionSize(c.section) / 2,
-                        header->height() / 2);
-        QStringList entries;
-        QTimer::singleShot(0, this, [&entries] {
+        const QPoint at(header->sectionViewportPosition(section) + header->sectionSize(section) / 2, header->height() / 2);
+        QStringList shown;
+        QTimer::singleShot(0, this, [&shown] {
             if (QWidget* popup = QApplication::activePopupWidget()) {
                 for (QAction* action : popup->actions())
-                    entries << action->text();
+                    shown << action->text();
                 popup->close();
             }
         });
         QContextMenuEvent event(QContextMenuEvent::Mouse, at, header->viewport()->mapToGlobal(at));
         QApplication::sendEvent(header->viewport(), &event);
-        QCOMPARE(entries, c.entries);
-    }
-
-    void clickingDeleteIconRemovesThatRow_data()
-    {
-        addRows<ClickCase>({
-            {"delete icon of the middle row", 1, Col::DeleteCol, {"a.tvx", "c.tvx"}},
-            {"x cell", 1, Col::XCol, {"a.tvx", "b.tvx", "c.tvx"}},
-            {"file name cell", 0, Col::FileNameCol, {"a.tvx", "b.tvx", "c.tvx"}},
-        });
+        QCOMPARE(shown, entries);
     }
 
     void clickingDeleteIconRemovesThatRow()
     {
-        QFETCH(ClickCase, c);
-        Fixture f(abc);
-        const QRect rect = f.view.visualRect(f.view.model()->index(c.shownRow, c.column));
-        QVERIFY(!rect.isEmpty());
-        QTest::mouseClick(f.view.viewport(), Qt::LeftButton, {}, rect.center());
-        QCOMPARE(f.stored(), c.remaining);
+        Fixture f;
+        const auto click = [&f](int column) {
+            const QRect rect = f.view.visualRect(f.view.model()->index(1, column));
+            QTest::mouseClick(f.view.viewport(), Qt::LeftButton, {}, rect.center());
+        };
+        click(Col::XCol);
+        QCOMPARE(f.stored(), QStringList({"a.tvx", "b.tvx", "c.tvx"}));
+        click(Col::DeleteCol);
+        QCOMPARE(f.stored(), QStringList({"a.tvx", "c.tvx"}));
     }
 
     void rowsAreShownInPickOrderOrReversed()
     {
-        Fixture f(abc);
+        Fixture f;
         QCOMPARE(f.shown(), QStringList({"a.tvx", "b.tvx", "c.tvx"}));
         f.view.reverseOrdering(true);
         QCOMPARE(f.shown(), QStringList({"c.tvx", "b.tvx", "a.tvx"}));
@@ -326,53 +240,60 @@ private Q_SLOTS:
 
     void removeRowsChecksTheRange_data()
     {
-        addRows<RemoveCase>({
-            {"count 0", 0, 0, {"a.tvx", "b.tvx", "c.tvx"}},
-            {"last row past the end", 1, 3, {"a.tvx", "b.tvx", "c.tvx"}},
-            {"last row", 2, 1, {"a.tvx", "b.tvx"}},
-            {"all", 0, 3, {}},
-        });
+        QTest::addColumn<int>("row");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<QStringList>("remaining"); // of a, b and c; all three: refused
+        QTest::newRow("count 0") << 0 << 0 << QStringList{"a.tvx", "b.tvx", "c.tvx"};
+        QTest::newRow("last row past the end") << 1 << 3 << QStringList{"a.tvx", "b.tvx", "c.tvx"};
+        QTest::newRow("last row") << 2 << 1 << QStringList{"a.tvx", "b.tvx"};
+        QTest::newRow("all") << 0 << 3 << QStringList{};
     }
 
     void removeRowsChecksTheRange()
     {
-        QFETCH(RemoveCase, c);
-        Fixture f(abc);
+        QFETCH(int, row);
+        QFETCH(int, count);
+        QFETCH(QStringList, remaining);
+        Fixture f;
         QSignalSpy removed(&f.model, &QAbstractItemModel::rowsRemoved);
-        const bool expected = c.remaining.size() < 3;
-        QCOMPARE(f.model.removeRows(c.row, c.count), expected);
-        QCOMPARE(f.stored(), c.remaining);
+        const bool expected = remaining.size() < 3;
+        QCOMPARE(f.model.removeRows(row, count), expected);
+        QCOMPARE(f.stored(), remaining);
         QCOMPARE(removed.count(), expected ? 1 : 0);
     }
 
+    // Steps: c = clearAllItems(), u = doUndo(), n = append "n.tvx"; the table starts with a and b.
     void undoBufferFollowsClearAndAppend_data()
     {
-        addRows<UndoCase>({
-            {"clear then undo", "cu", {true, false}, {"a.tvx", "b.tvx"}},
-            {"append after clear forgets", "cnu", {true, false}, {"n.tvx"}},
-            {"second clear keeps the newer rows", "cncu", {true, false, true, false}, {"n.tvx"}},
-            {"clear of an empty table", "ccu", {true, false}, {}},
-        });
+        QTest::addColumn<QString>("steps");
+        QTest::addColumn<QList<bool>>("announced");
+        QTest::addColumn<QStringList>("rows");
+        QTest::newRow("clear then undo") << "cu" << QList<bool>{true, false} << QStringList{"a.tvx", "b.tvx"};
+        QTest::newRow("append after clear forgets") << "cnu" << QList<bool>{true, false} << QStringList{"n.tvx"};
+        QTest::newRow("second clear keeps the newer rows")
+            << "cncu" << QList<bool>{true, false, true, false} << QStringList{"n.tvx"};
     }
 
     void undoBufferFollowsClearAndAppend()
     {
-        QFETCH(UndoCase, c);
+        QFETCH(QString, steps);
+        QFETCH(QList<bool>, announced);
+        QFETCH(QStringList, rows);
         Fixture f({point(0, 0, 0, "a.tvx"), point(0, 0, 0, "b.tvx")});
         QSignalSpy spy(&f.model, &PointInfoTableModel::signal_pointInfotable_undomode_changed);
-        for (const char* step = c.steps; *step; ++step) {
-            if (*step == 'c')
+        for (const QChar step : steps) {
+            if (step == QLatin1Char('c'))
                 f.model.clearAllItems();
-            else if (*step == 'u')
+            else if (step == QLatin1Char('u'))
                 f.model.doUndo();
             else
                 f.model.appendPoint(point(0, 0, 0, "n.tvx"));
         }
-        QList<bool> announced;
-        for (const auto& arguments : spy)
-            announced << arguments.at(0).toBool();
-        QCOMPARE(announced, c.announced);
-        QCOMPARE(f.shown(), c.rows);
+        QList<bool> heard;
+        for (const auto& arguments : std::as_const(spy))
+            heard << arguments.at(0).toBool();
+        QCOMPARE(heard, announced);
+        QCOMPARE(f.shown(), rows);
     }
 };
 

@@ -64,7 +64,6 @@ private:
         const std::vector<QPointF> corners = triangulateEvenOdd(outlines);
         QCOMPARE(corners.size() % 3, std::size_t(0));
         double sum = 0.0;
-        double minX = 0.0, maxX = 0.0, minY = 0.0, maxY = 0.0;
         for (std::size_t i = 0; i < corners.size(); i += 3) {
             const double area = twiceArea(corners[i], corners[i + 1], corners[i + 2]) / 2.0;
             QVERIFY2(area > 0.0, "every triangle is counter-clockwise and not degenerate");
@@ -73,6 +72,7 @@ private:
         QVERIFY2(region < 0.0 || std::abs(sum - region) <= 1e-9 * std::max(1.0, region),
                  qPrintable(QStringLiteral("triangles %1, region %2").arg(sum).arg(region)));
 
+        double minX = 0.0, maxX = 0.0, minY = 0.0, maxY = 0.0;
         for (const Path& p : outlines)
             for (const IntPoint& v : p) {
                 minX = std::min(minX, double(v.X));
@@ -105,13 +105,9 @@ private Q_SLOTS:
         QTest::addColumn<Paths>("outlines");
         QTest::addColumn<double>("expectedArea");
 
-        // Areas by hand: squares side², the L 3 units of 1×1, the U 3×3 less its 1×2 notch.
-        QTest::newRow("square counter-clockwise") << Paths{square(0, 0, 10, true)} << 100.0;
+        // Areas by hand: squares side², the U 3×3 less its 1×2 notch.
         QTest::newRow("U shape clockwise")
             << Paths{{{0, 3}, {1, 3}, {1, 1}, {2, 1}, {2, 3}, {3, 3}, {3, 0}, {0, 0}}} << 7.0;
-        QTest::newRow("comb") << Paths{{{0, 0}, {9, 0}, {9, 5}, {8, 5}, {8, 1}, {6, 1}, {6, 5}, {5, 5}, {5, 1},
-                                        {3, 1}, {3, 5}, {2, 5}, {2, 1}, {1, 1}, {1, 5}, {0, 5}}}
-                              << 9.0 + 4 * 4.0; // base 9×1 and four teeth of 1×4
         QTest::newRow("hole counter-rotating")
             << Paths{square(0, 0, 10, true), square(3, 3, 4, false)} << 100.0 - 16.0;
         // The right hole's rightmost vertex cannot bridge straight right through the second hole.

@@ -30,16 +30,7 @@ Vector3d tilted(const Vector3d& d, const Vector3d& towards, double angle)
     return unit * std::cos(angle) + across * std::sin(angle);
 }
 
-// Rectangles share p1 = (1, −0.1, −0.1) and p2 = (1, 0.1, −0.1); p0 varies.
-struct RectangleRow {
-    const char* name;
-    Vector3d p0;
-    Vector3d direction;
-    bool hit;
-};
-
 } // namespace
-Q_DECLARE_METATYPE(RectangleRow)
 
 // Hit tests of the point-like, line-like and area items; the polygon has its own test.
 class ScanViewItemsTest : public QObject
@@ -47,35 +38,33 @@ class ScanViewItemsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Rectangles share p1 = (1, −0.1, −0.1), the corner between the two edges, and p2 = (1, 0.1, −0.1).
     void rectangleHit_data()
     {
-        QTest::addColumn<RectangleRow>("row");
-        // A square of corners (±0.1, ±0.1) in the plane x = 1; p1 is the corner between the two edges.
-        const Vector3d p0(1, -0.1, 0.1), p1(1, -0.1, -0.1), p2(1, 0.1, -0.1);
+        QTest::addColumn<Vector3d>("p0");
+        QTest::addColumn<Vector3d>("direction");
+        QTest::addColumn<bool>("hit");
+        // A square of corners (±0.1, ±0.1) in the plane x = 1.
+        const Vector3d square(1, -0.1, 0.1);
         // A parallelogram: p1 + s·(p2 - p1) + t·(p0 - p1); (0.15, 0.05) has s = 0.875, t = 0.75.
-        const Vector3d skew0(1, 0.0, 0.1);
-        const RectangleRow rows[] = {
-            {"centre", p0, ahead(0, 0), true},
-            // Only the quad's second triangle, reaching to p0 + p2 - p1, covers this one.
-            {"near the derived fourth corner", p0, ahead(0.09, 0.09), true},
-            {"beyond an edge", p0, ahead(0.11, 0.0), false},
-            {"opposite direction", p0, -ahead(0, 0), false},
-            {"parallelogram, inside its slanted part", skew0, ahead(0.15, 0.05), true},
-            {"parallelogram, cut-off corner", skew0, ahead(-0.09, 0.09), false},
-        };
-        for (const RectangleRow& row : rows)
-            QTest::newRow(row.name) << row;
+        const Vector3d skewed(1, 0.0, 0.1);
+        // Only the quad's second triangle, reaching to p0 + p2 - p1, covers this one.
+        QTest::newRow("near the derived fourth corner") << square << ahead(0.09, 0.09) << true;
+        QTest::newRow("beyond an edge") << square << ahead(0.11, 0.0) << false;
+        QTest::newRow("parallelogram, inside its slanted part") << skewed << ahead(0.15, 0.05) << true;
+        QTest::newRow("parallelogram, cut-off corner") << skewed << ahead(-0.09, 0.09) << false;
     }
 
     void rectangleHit()
     {
-        QFETCH(RectangleRow, row);
+        QFETCH(Vector3d, p0);
+        QFETCH(Vector3d, direction);
+        QFETCH(bool, hit);
         const Vector3d p1(1, -0.1, -0.1), p2(1, 0.1, -0.1);
-        const ScanViewRectangle rectangle(row.p0, p1, p2);
-        QCOMPARE(rectangle.hitTest(row.direction), row.hit);
-        const std::vector<Vector3d> corners = rectangle.corners();
-        QCOMPARE(corners.size(), std::size_t(4));
-        QVERIFY((corners[3] - (row.p0 + p2 - p1)).length() < 1e-15);
+        const ScanViewRectangle rectangle(p0, p1, p2);
+        QCOMPARE(rectangle.hitTest(direction), hit);
+        QVERIFY(!rectangle.hitTest(-direction));
+        QVERIFY((rectangle.corners().at(3) - (p0 + p2 - p1)).length() < 1e-15);
     }
 
     void ellipseHit_data()
@@ -146,11 +135,9 @@ private Q_SLOTS:
         const Vector3d middle = Vector3d(1, 1, 0).normalized();
         QTest::newRow("middle of the arc") << x << y << middle << true;
         QTest::newRow("above the arc beyond the pick angle") << x << y << tilted(middle, z, 1.2 * itemPickAngle) << false;
-        QTest::newRow("past the first end beyond the pick angle") << x << y << tilted(x, -y, 1.2 * itemPickAngle) << false;
         // On the same great circle but off the shorter arc between the ends.
         QTest::newRow("on the great circle beyond the second end") << x << y << Vector3d(-1, 1, 0) << false;
         QTest::newRow("ends not normalised") << x * 4.0 << y * 0.5 << tilted(middle, z, 0.8 * itemPickAngle) << true;
-        QTest::newRow("both ends equal, on them") << y << y << y << true;
         QTest::newRow("zero end") << Vector3d() << y << y << false;
     }
 
@@ -168,41 +155,19 @@ private Q_SLOTS:
         QCOMPARE(reversed.hitTest(direction), hit);
     }
 
-    // An item without enough points has nothing to hit, wherever the direction points.
-    void tooFewPointsNeverHit_data()
-    {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<int>("points");
-        QTest::newRow("rectangle with two points") << 0 << 2;
-        QTest::newRow("text without its anchor") << 2 << 0;
-        QTest::newRow("measurement with one point") << 3 << 1;
-    }
-
+    // An item without enough points has nothing to hit, even with every point straight ahead.
     void tooFewPointsNeverHit()
     {
-        QFETCH(int, kind);
-        QFETCH(int, points);
-
-        // Every point lies straight ahead, where a complete item would be hit.
-        const std::vector<Vector3d> ahead(std::size_t(points), Vector3d(1, 0, 0));
-        std::unique_ptr<ScanViewItem> item;
-        switch (kind) {
-        case 0:
-            item = std::make_unique<ScanViewRectangle>();
-            break;
-        case 1:
-            item = std::make_unique<ScanViewEllipse>();
-            break;
-        case 2:
-            item = std::make_unique<ScanViewTextItem>();
-            break;
-        default:
-            item = std::make_unique<ScanViewMeasurementItem>();
-            break;
+        const std::pair<std::shared_ptr<ScanViewItem>, std::size_t> items[] = {
+            {std::make_shared<ScanViewRectangle>(), 2},
+            {std::make_shared<ScanViewTextItem>(), 0},
+            {std::make_shared<ScanViewMeasurementItem>(), 1},
+        };
+        for (const auto& [item, points] : items) {
+            item->setPoints(std::vector<Vector3d>(points, Vector3d(1, 0, 0)));
+            QVERIFY(!item->hitTest({1, 0, 0}));
+            QVERIFY(!item->hitTest({1, 0.01, 0.01}));
         }
-        item->setPoints(ahead);
-        QVERIFY(!item->hitTest({1, 0, 0}));
-        QVERIFY(!item->hitTest({1, 0.01, 0.01}));
     }
 };
 

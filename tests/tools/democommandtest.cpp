@@ -3,6 +3,8 @@
 
 #include "annotations/annotationfile.h"
 #include "annotations/sceneitemstablemodel.h"
+#include "fileio/tvxfile.h"
+#include "fileio/tvxfilescaninfo.h"
 #include "project/basicproject.h"
 #include "scene/scanviewscenegraph.h"
 
@@ -91,6 +93,13 @@ private Q_SLOTS:
             QVERIFY(planar.rowCount() > 0 && spherical.itemCount() > 0);
             // The panorama beside it has one pixel per cell.
             QCOMPARE(QImage(scan.toString().chopped(4) + QStringLiteral(".jpg")).size(), QSize(256, 128));
+            // The scan information holds the box of the scan's points, not the empty default.
+            TVXFile file(scan.toString());
+            QVERIFY(file.open() && file.readHeader());
+            const Vector3d low = file.scanInfo().boundingBoxMin;
+            const Vector3d high = file.scanInfo().boundingBoxMax;
+            QVERIFY(low.x < high.x && low.y < high.y && low.z < high.z);
+            QVERIFY(high.x - low.x < 250.0); // within twice the scanner's range
         }
     }
 

@@ -1,8 +1,10 @@
 // tvxtool demo DIR [--scans N] [--columns C] [--rows R] [--seed S]: a demo project made by a
-// simulated terrestrial laser scanner at N stations in one procedural outdoor scene. Writes
-// DIR/demo.tvxprj and, per station, DIR/scans/stationNN.tvx with its data file, its panorama
-// "stationNN.jpg" (one pixel per cell) and its annotation file "stationNN-viewer.xml". The same
-// arguments give the same bytes. Progress goes to stderr, a summary as JSON to stdout.
+// simulated terrestrial laser scanner at N stations (at most 500) in one procedural outdoor scene.
+// Writes DIR/demo.tvxprj and, per station, DIR/scans/stationNN.tvx with its data file, its
+// panorama "stationNN.jpg" (one pixel per cell) and its annotation file "stationNN-viewer.xml".
+// Each scan information holds the bounding box of the scan's points. Stations are simulated on
+// all cores at once; the same arguments give the same bytes. Progress goes to stderr, a summary as
+// JSON to stdout.
 #include "demoscene.h"
 #include "demorandom.h"
 #include "jsonoutput.h"
@@ -27,9 +29,12 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QImageWriter>
+#include <QThread>
 
+#include <atomic>
 #include <cstdio>
 #include <optional>
+#include <thread>
 
 using namespace TVX::CORE;
 
@@ -47,6 +52,7 @@ struct DemoArguments {
 
 // The panorama image is held whole while a scan is written: three bytes a cell.
 constexpr quint64 maximumCells = 100'000'000;
+constexpr int maximumScans = 500;
 
 template<typename Number>
 Number parseNumber(const QString& text, Number low, Number high, const char* what)
@@ -72,16 +78,20 @@ DemoArguments parseArguments(const QStringList& arguments)
         if (i + 1 >= arguments.size())
             throw UsageError("demo: an option without its value");
         const QString& value = arguments[++i];
-        if (argument == QLatin1String("--scans"))
-            parsed.scans = parseNumber<int>(value, 1, 20, "scan count");
-        else if (argument == QLatin1String("--columns"))
+        if (argument == QLatin1String("--scans")) {
+            const auto scans = parseNumber<quint64>(value, 1, std::numeric_limits<quint64>::max(), "scan count");
+            if (scans > quint64(maximumScans))
+                throw LimitError("tvxtool demo: at most " + std::to_string(maximumScans) + " scans");
+            parsed.scans = int(scans);
+        } else if (argument == QLatin1String("--columns")) {
             parsed.columns = parseNumber<quint32>(value, 2, 100000, "column count");
-        else if (argument == QLatin1String("--rows"))
+        } else if (argument == QLatin1String("--rows")) {
             parsed.rows = parseNumber<quint32>(value, 2, 100000, "row count");
-        else if (argument == QLatin1String("--seed"))
+        } else if (argument == QLatin1String("--seed")) {
             parsed.seed = parseNumber<quint64>(value, 0, std::numeric_limits<quint64>::max(), "seed");
-        else
+        } else {
             throw UsageError("demo: unknown option");
+        }
     }
     if (parsed.directory.isEmpty())
         throw UsageError("demo: missing directory");
@@ -235,6 +245,60 @@ void writeProject(const QString& path, const QStringList& scanPaths, quint64 see
     serializer.write(content);
 }
 
+// The scan file of station i (from 0), relative to the project directory.
+QString stationPath(int i)
+{
+    return QStringLiteral("scans/station%1.tvx").arg(i + 1, 2, 10, QLatin1Char('0'));
+}
+
+// Simulates station i and writes its scan, panorama and annotation files; throws CommandError.
+void writeStation(const DemoScene& scene, const DemoArguments& args, const QDir& directory,
+                  const std::vector<Vector3d>& places, int i)
+{
+    const int number = i + 1;
+    // One station stands slightly tilted: the second, or the only one.
+    const bool tilted = i == (args.scans > 1 ? 1 : 0);
+    StationSetup station;
+    station.columns = args.columns;
+    station.rows = args.rows;
+    station.seed = hashOf(args.seed, 100, quint64(i));
+    const double height = uniformOf(hashOf(station.seed, 1), 1.5, 1.75); // tripod
+    const double heading = uniformOf(hashOf(station.seed, 2), 0.0, 2 * M_PI);
+    const double tiltX = tilted ? 1.2 * M_PI / 180 : 0.0;
+    const double tiltY = tilted ? -0.8 * M_PI / 180 : 0.0;
+    station.pose = stationPose(places[std::size_t(i)] + Vector3d(0, 0, height), heading, tiltX, tiltY);
+
+    const QString scanPath = directory.filePath(stationPath(i));
+    ScannerSimulator simulator(scene, station);
+    TVXFileWriter writer;
+    describeStation(writer, scene, simulator, station, number);
+    writer.setCellSource([&simulator](quint32 column, quint32 row) { return simulator.measure(column, row); });
+    writer.setMeasureBoundingBox(true);
+    int reported = -1;
+    writer.setProgress([&reported, number, &args](quint64 done, quint64 total) {
+        const int percent = total ? int(done * 100 / total) : 100;
+        if (percent / 10 != reported / 10) {
+            reported = percent;
+            std::fprintf(stderr, "station %d/%d: %d%%\n", number, args.scans, percent);
+        }
+    });
+    QString error;
+    if (!writer.write(scanPath, &error))
+        throw CommandError(("tvxtool demo: " + error).toStdString());
+
+    const QString base = QFileInfo(scanPath).absolutePath() + QLatin1Char('/') + QFileInfo(scanPath).completeBaseName();
+    QImageWriter image(base + QStringLiteral(".jpg"), "jpg");
+    image.setQuality(90);
+    if (!image.write(simulator.panorama()))
+        throw CommandError(("tvxtool demo: " + image.errorString()).toStdString());
+
+    SceneItemsTableModel planar;
+    ScanViewSceneGraph spherical;
+    addAnnotations(scene, simulator, station, planar, spherical);
+    if (!AnnotationFile::save(scanPath, planar, &spherical, &error))
+        throw CommandError(("tvxtool demo: " + error).toStdString());
+}
+
 } // namespace
 
 int runDemo(const QStringList& arguments)
@@ -246,55 +310,37 @@ int runDemo(const QStringList& arguments)
 
     const DemoScene scene(args.seed);
     const std::vector<Vector3d> places = scene.stationPlaces(args.scans);
-    // One station stands slightly tilted: the second, or the only one.
-    const int tilted = args.scans > 1 ? 1 : 0;
+    // Stations share nothing but the scene, which they only read: each worker takes the next
+    // station until none is left or one has failed.
+    std::vector<std::string> errors(std::size_t(args.scans));
+    std::atomic<int> next{0};
+    std::atomic<bool> failed{false};
+    const auto work = [&] {
+        for (int i = next++; i < args.scans && !failed; i = next++) {
+            try {
+                writeStation(scene, args, directory, places, i);
+            } catch (const std::exception& error) {
+                errors[std::size_t(i)] = error.what();
+                failed = true;
+            }
+        }
+    };
+    std::vector<std::thread> workers;
+    for (int t = 1; t < std::min(QThread::idealThreadCount(), args.scans); ++t)
+        workers.emplace_back(work);
+    work();
+    for (std::thread& worker : workers)
+        worker.join();
+    for (const std::string& error : errors)
+        if (!error.empty())
+            throw CommandError(error);
+
     QStringList scanPaths;
     QJsonArray scans;
     for (int i = 0; i < args.scans; ++i) {
-        const int number = i + 1;
-        StationSetup station;
-        station.columns = args.columns;
-        station.rows = args.rows;
-        station.seed = hashOf(args.seed, 100, quint64(i));
-        const double height = uniformOf(hashOf(station.seed, 1), 1.5, 1.75); // tripod
-        const double heading = uniformOf(hashOf(station.seed, 2), 0.0, 2 * M_PI);
-        const double tiltX = i == tilted ? 1.2 * M_PI / 180 : 0.0;
-        const double tiltY = i == tilted ? -0.8 * M_PI / 180 : 0.0;
-        station.pose = stationPose(places[std::size_t(i)] + Vector3d(0, 0, height), heading, tiltX, tiltY);
-
-        const QString relative = QStringLiteral("scans/station%1.tvx").arg(number, 2, 10, QLatin1Char('0'));
-        const QString scanPath = directory.filePath(relative);
-        ScannerSimulator simulator(scene, station);
-        TVXFileWriter writer;
-        describeStation(writer, scene, simulator, station, number);
-        writer.setCellSource([&simulator](quint32 column, quint32 row) { return simulator.measure(column, row); });
-        int reported = -1;
-        writer.setProgress([&reported, number, &args](quint64 done, quint64 total) {
-            const int percent = total ? int(done * 100 / total) : 100;
-            if (percent / 10 != reported / 10) {
-                reported = percent;
-                std::fprintf(stderr, "station %d/%d: %d%%\n", number, args.scans, percent);
-            }
-        });
-        QString error;
-        if (!writer.write(scanPath, &error))
-            throw CommandError(("tvxtool demo: " + error).toStdString());
-
-        const QString base = QFileInfo(scanPath).absolutePath() + QLatin1Char('/') + QFileInfo(scanPath).completeBaseName();
-        QImageWriter image(base + QStringLiteral(".jpg"), "jpg");
-        image.setQuality(90);
-        if (!image.write(simulator.panorama()))
-            throw CommandError(("tvxtool demo: " + image.errorString()).toStdString());
-
-        SceneItemsTableModel planar;
-        ScanViewSceneGraph spherical;
-        addAnnotations(scene, simulator, station, planar, spherical);
-        if (!AnnotationFile::save(scanPath, planar, &spherical, &error))
-            throw CommandError(("tvxtool demo: " + error).toStdString());
-        scanPaths << relative;
-        scans.append(QDir(directory).absoluteFilePath(relative));
+        scanPaths << stationPath(i);
+        scans.append(directory.absoluteFilePath(stationPath(i)));
     }
-
     const QString projectPath = directory.absoluteFilePath(QStringLiteral("demo.tvxprj"));
     writeProject(projectPath, scanPaths, args.seed);
     printJson({{QStringLiteral("project"), projectPath}, {QStringLiteral("scans"), scans}});

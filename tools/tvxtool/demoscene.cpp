@@ -698,9 +698,34 @@ std::vector<Vector3d> DemoScene::stationPlaces(int count) const
         const double r = radius + d->random(24, quint64(i), -0.05, 0.0);
         places.emplace_back(r * std::cos(angle), r * std::sin(angle), 0);
     }
-    // More stations line up 7 m apart on the far side of the road.
-    for (int i = onCircle; i < count; ++i)
+    // Up to the twentieth, stations line up 7 m apart on the far side of the road.
+    const int alongRoad = std::min(count, 20);
+    for (int i = onCircle; i < alongRoad; ++i)
         places.emplace_back(-35.0 + 7.0 * (i - onCircle), roadY - roadHalfWidth - 2.0, 0);
+    if (count == alongRoad)
+        return places;
+    // The others stand on open ground (nothing above it but the sky), on a 7 m grid around the
+    // plaza, nearest first; far enough from the stations before to leave room for a tripod.
+    constexpr int gridReach = 25; // 175 m: room for well over 500 stations
+    std::vector<Vector3d> grid;
+    for (int gx = -gridReach; gx <= gridReach; ++gx)
+        for (int gy = -gridReach; gy <= gridReach; ++gy)
+            grid.emplace_back(7.0 * gx + 3.5, 7.0 * gy + 3.5, 0);
+    std::stable_sort(grid.begin(), grid.end(),
+                     [](const Vector3d& a, const Vector3d& b) { return a.length() < b.length(); });
+    const auto openGround = [this](const Vector3d& p) {
+        SurfaceHit hit;
+        return cast(p + Vector3d(0, 0, 100), Vector3d(0, 0, -1), hit) && hit.point.z < 0.01;
+    };
+    const auto roomy = [&places](const Vector3d& p) {
+        return std::all_of(places.begin(), places.end(), [&p](const Vector3d& q) { return (p - q).length() >= 4.0; });
+    };
+    for (const Vector3d& p : grid) {
+        if (int(places.size()) == count)
+            break;
+        if (roomy(p) && openGround(p))
+            places.push_back(p);
+    }
     return places;
 }
 

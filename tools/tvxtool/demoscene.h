@@ -70,7 +70,8 @@ public:
     const DemoLandmarks& landmarks() const;
     // Free places on the plaza for `count` scanner stations (on the ground), each within 4 to
     // 12 m of the others for up to nine stations; more stations continue along the road, each 4 to
-    // 12 m from the one before.
+    // 12 m from the one before, up to the twentieth; the rest stand on open ground around the
+    // plaza, nearest first (far more than 500 fit).
     std::vector<CORE::Vector3d> stationPlaces(int count) const;
 
 private:

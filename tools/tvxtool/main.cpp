@@ -16,9 +16,13 @@ const ToolCommand commands[] = {
     {"point", "point SCAN.tvx COLUMN ROW", runPoint},
     {"cloud", "cloud SCAN.tvx --output FILE [--step N]", runCloud},
     {"annotations", "annotations SCAN.tvx [--rewrite OUT.xml]", runAnnotations},
-    {"project", "project PROJECT_FILE", runProject},
+    {"project", "project PROJECT_FILE [--scans]", runProject},
     {"demo", "demo DIR [--scans N] [--columns C] [--rows R] [--seed S]", runDemo},
+    {"import", "import INPUT.{ptx,e57} PROJECT_DIR [--step DEGREES]", runImport},
 };
+
+// As main received them, for starting tvxtool-full in this process's place.
+char** processArgv = nullptr;
 
 QByteArray usageText()
 {
@@ -30,8 +34,14 @@ QByteArray usageText()
 
 } // namespace
 
+char** TVX::TOOL::processArguments()
+{
+    return processArgv;
+}
+
 int main(int argc, char** argv)
 {
+    processArgv = argv;
     QCoreApplication app(argc, argv);
     QStringList arguments = app.arguments().mid(1);
     if (arguments.size() == 1 && (arguments.first() == QLatin1String("--help") || arguments.first() == QLatin1String("-h"))) {
@@ -51,6 +61,10 @@ int main(int argc, char** argv)
     }
     try {
         return command->run(arguments.mid(1));
+    } catch (const LimitError& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        std::fputs(usageText().constData(), stderr);
+        return 2;
     } catch (const UsageError&) {
         std::fputs(usageText().constData(), stderr);
         return 2;

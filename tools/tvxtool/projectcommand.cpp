@@ -1,5 +1,6 @@
-// tvxtool project PROJECT_FILE: a project file as JSON, read by the serializer alone (no lock is
-// taken and no scan is opened).
+// tvxtool project PROJECT_FILE [--scans]: a project file as JSON, read by the serializer alone (no
+// lock is taken and no scan is opened); with --scans the scans as well (projectscans.cpp).
+#include "projectcommand.h"
 #include "jsonoutput.h"
 #include "toolcommand.h"
 
@@ -50,12 +51,8 @@ QJsonArray jsonNumbers(const double* begin, const double* end)
 
 } // namespace
 
-int runProject(const QStringList& arguments)
+bool readProjectJson(const QString& path, QJsonObject& json)
 {
-    if (arguments.size() != 1 || arguments.first().startsWith(QLatin1Char('-')))
-        throw UsageError("project: expects one project file");
-    const QString path = QFileInfo(arguments.first()).absoluteFilePath();
-
     TVXProjectSerializer serializer(path);
     TVXProjectContent content;
     if (!serializer.open(TVXProjectSerializer::ReadOnly) || !serializer.read(content)) {
@@ -63,7 +60,7 @@ int runProject(const QStringList& arguments)
             ProjectMessages::readFailure(QDir::toNativeSeparators(path), serializer.formatVersion(),
                                          serializer.writerMajor(), serializer.writerMinor(), serializer.writerPatch());
         std::fputs(message.toLocal8Bit().constData(), stderr);
-        return 1;
+        return false;
     }
 
     QJsonArray coordinateSystems;
@@ -72,16 +69,32 @@ int runProject(const QStringList& arguments)
             {QStringLiteral("name"), system.name},
             {QStringLiteral("values"), jsonNumbers(system.values.data(), system.values.data() + system.values.size())}});
     }
-    printJson({{QStringLiteral("path"), path},
-               {QStringLiteral("formatVersion"), qint64(serializer.formatVersion())},
-               {QStringLiteral("writerVersion"),
-                QJsonArray{qint64(serializer.writerMajor()), qint64(serializer.writerMinor()),
-                           qint64(serializer.writerPatch())}},
-               {QStringLiteral("origin"), jsonNumbers(content.origin.data(), content.origin.data() + 3)},
-               {QStringLiteral("coordinateSystems"), coordinateSystems},
-               {QStringLiteral("currentCoordinateSystem"), qint64(content.currentCoordinateSystem)},
-               {QStringLiteral("scans"), QJsonArray::fromStringList(content.scans)},
-               {QStringLiteral("tree"), jsonFolder(*projectTreeFromRecords(content.tree))}});
+    json = {{QStringLiteral("path"), path},
+            {QStringLiteral("formatVersion"), qint64(serializer.formatVersion())},
+            {QStringLiteral("writerVersion"),
+             QJsonArray{qint64(serializer.writerMajor()), qint64(serializer.writerMinor()),
+                        qint64(serializer.writerPatch())}},
+            {QStringLiteral("origin"), jsonNumbers(content.origin.data(), content.origin.data() + 3)},
+            {QStringLiteral("coordinateSystems"), coordinateSystems},
+            {QStringLiteral("currentCoordinateSystem"), qint64(content.currentCoordinateSystem)},
+            {QStringLiteral("scans"), QJsonArray::fromStringList(content.scans)},
+            {QStringLiteral("tree"), jsonFolder(*projectTreeFromRecords(content.tree))}};
+    return true;
+}
+
+int runProject(const QStringList& arguments)
+{
+    QStringList files = arguments;
+    const bool scans = files.removeAll(QStringLiteral("--scans")) > 0;
+    if (files.size() != 1 || files.first().startsWith(QLatin1Char('-')))
+        throw UsageError("project: expects one project file");
+    const QString path = QFileInfo(files.first()).absoluteFilePath();
+    if (scans)
+        return runProjectScans(path);
+    QJsonObject json;
+    if (!readProjectJson(path, json))
+        return 1;
+    printJson(json);
     return 0;
 }
 

@@ -5,7 +5,6 @@
 #include "fileio/scanfilelog.h"
 
 #include <QBitArray>
-#include <QColor>
 #include <QDate>
 #include <QDateTime>
 #include <QHash>
@@ -139,6 +138,22 @@ QVariant readPlain(QDataStream& stream, bool isNull)
     return isNull ? QVariant(QMetaType::fromType<T>()) : QVariant::fromValue(T(wire));
 }
 
+// A colour's type lives in QtGui, which tools that need no GUI do not load: the value is read
+// through its meta type when the process has one, else its bytes are passed over.
+QVariant readColour(QDataStream& stream, bool isNull)
+{
+    constexpr int colourBytes = 11; // spec, alpha, three components, padding
+    const QMetaType type(QMetaType::QColor);
+    if (!type.isValid()) {
+        qCDebug(lcScanFile) << "a colour value is skipped: no GUI library loaded";
+        stream.skipRawData(colourBytes);
+        return QVariant();
+    }
+    QVariant value(type);
+    type.load(stream, value.data());
+    return isNull ? QVariant(type) : value;
+}
+
 struct PlainType {
     quint32 wireType;
     int metaType;
@@ -166,7 +181,7 @@ const PlainType plainTypes[] = {
     {24, QMetaType::QLineF, 32, readPlain<QLineF>},
     {25, QMetaType::QPoint, 8, readPlain<QPoint>},
     {26, QMetaType::QPointF, 16, readPlain<QPointF>},
-    {67, QMetaType::QColor, 11, readPlain<QColor>},
+    {67, QMetaType::QColor, 11, readColour},
     {129, QMetaType::Long, 8, readPlain<long, qint64>},
     {130, QMetaType::Short, 2, readPlain<short, qint16>},
     {131, QMetaType::Char, 1, readPlain<char, qint8>},

@@ -46,9 +46,10 @@ void readByteArray(QDataStream& stream, QByteArray& bytes);
 
 // QVariant in Qt's version-12 encoding, for the types scan files carry: invalid, bool, the integer
 // and floating-point types, QChar, QString, QStringList, QByteArray, QBitArray, QDate, QTime,
-// QDateTime, QUrl, QLocale, QRect(F), QSize(F), QLine(F), QPoint(F), QColor, and lists, maps and
-// hashes of these nested up to 32 deep. Any other type sets ReadCorruptData: its length is unknown
-// and Qt's own reader of it may allocate what the file claims or need a GUI application.
+// QDateTime, QUrl, QLocale, QRect(F), QSize(F), QLine(F), QPoint(F), QColor (an invalid variant in a
+// process without QtGui), and lists, maps and hashes of these nested up to 32 deep. Any other type
+// sets ReadCorruptData: its length is unknown and Qt's own reader of it may allocate what the file
+// claims or need a GUI application.
 void readVariant(QDataStream& stream, QVariant& value);
 bool isStorableVariant(const QVariant& value);
 // Writes `value` when readVariant can read it back; otherwise logs its type and sets WriteFailed.

@@ -11,11 +11,15 @@
 #include "fileio/tvxfiletiledecoder.h"
 #include "scene/scanviewscenegraph.h"
 
+#include <QBuffer>
 #include <QDataStream>
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <cmath>
 #include <functional>
+#include <limits>
 
 namespace TVX::CORE {
 
@@ -23,38 +27,11 @@ namespace {
 constexpr const char* module = "libs/core/src/fileio/tvxfile";
 constexpr int directoryErrorLine = 243;
 constexpr qint64 minimumScanFileSize = 12;
+constexpr qint64 maximumBufferedScanFile = 64 << 20;
 constexpr auto dataOpenMode = QIODevice::ReadOnly | QIODevice::Unbuffered;
 
-// Distance in millimetres of a record starting with dx, dy: 24 bits, big-endian.
-quint32 recordMillimetres(const unsigned char* record)
-{
-    return quint32(record[2]) << 16 | quint32(record[3]) << 8 | record[4];
-}
-
-// The points of the tile's cells whose column and row are multiples of `step`, in tile order.
-void appendEveryStep(const TVXFileTile& tile, quint32 step, std::vector<float>& xyz)
-{
-    const quint32 width = tile.width();
-    const quint32 height = tile.height();
-    // Rows and columns of the tile that are multiples of step: from the first one on, every step-th.
-    const quint32 firstRow = (step - tile.firstRow % step) % step;
-    const quint32 firstColumn = (step - tile.firstColumn % step) % step;
-    if (firstRow >= height || firstColumn >= width)
-        return;
-    const std::size_t picked = std::size_t((width - firstColumn - 1) / step + 1) * ((height - firstRow - 1) / step + 1);
-    std::size_t at = xyz.size();
-    xyz.resize(at + 3 * picked);
-    // 64-bit indices: adding a huge step must not wrap.
-    for (quint64 i = firstColumn; i < width; i += step) {
-        const Vector3d* column = tile.points.data() + i * height;
-        for (quint64 j = firstRow; j < height; j += step) {
-            xyz[at++] = float(column[j].x);
-            xyz[at++] = float(column[j].y);
-            xyz[at++] = float(column[j].z);
-        }
-    }
-}
-
+// Neighbouring tiles are read together up to this many bytes (a single tile may be larger).
+constexpr quint64 tileRunBytes = 4 << 20;
 } // namespace
 
 struct TVXFile::Private {
@@ -79,13 +56,17 @@ struct TVXFile::Private {
 
     std::unique_ptr<TVXFileTileDecoder> decoder; // for the scan information read last
     std::vector<char> records;                   // reused by every tile read
+    qint64 dataSize = -1;                        // of the open data file once asked; -1: not yet
 
     void recreate();
     bool fail(const QString& why);
     void readDirectory(QDataStream& stream);
-    bool readSections(QIODevice& device, QDataStream& stream);
+    bool readSections(QIODevice& device, qint64 size, QDataStream& stream);
     TVXFileTileDecoder& tileDecoder();
 
+    bool openDataFile(QIODevice::OpenMode mode);
+    // The open data file's size, asked of the system once per opening.
+    quint64 dataFileSize();
     // Runs `read` on the data file, opening and closing it around when it is not open.
     template <typename Read>
     bool withDataFile(Read read);
@@ -93,6 +74,13 @@ struct TVXFile::Private {
     // Position of a cell's record; false when the grid cannot have one (tile size 0).
     bool recordOf(quint32 column, quint32 row, quint64& offset) const;
     bool inGrid(quint32 column, quint32 row) const;
+
+    // How many cells lie on a step, for reserving: 0 when the open data file is too short to hold
+    // the grid, so that a corrupt geometry reserves nothing.
+    std::size_t cellsOnStep(quint32 step);
+    // visit(x, y, z, record) for every cell of readPointCloud, with its record (for the colours).
+    template <typename Visit>
+    bool forEachCloudPoint(TVXFile& file, quint32 step, Visit visit);
 };
 
 void TVXFile::Private::recreate()
@@ -133,7 +121,7 @@ void TVXFile::Private::readDirectory(QDataStream& stream)
     }
 }
 
-bool TVXFile::Private::readSections(QIODevice& device, QDataStream& stream)
+bool TVXFile::Private::readSections(QIODevice& device, qint64 size, QDataStream& stream)
 {
     const std::array<std::function<bool()>, 5> readers = {
         [&] { return scanInfo->read(stream); },
@@ -146,7 +134,7 @@ bool TVXFile::Private::readSections(QIODevice& device, QDataStream& stream)
     for (std::size_t section = 0; section < readers.size(); ++section) {
         // Past the end the section tag reads as 0 and fails all the same, only without a warning.
         const qint64 offset = offsets[section];
-        if (offset < 0 || offset > device.size() || !device.seek(offset) || !readers[section]())
+        if (offset < 0 || offset > size || !device.seek(offset) || !readers[section]())
             return fail(
                 QStringLiteral("the %1 section at offset %2 is unreadable").arg(sectionName(section)).arg(offset));
     }
@@ -160,11 +148,24 @@ TVXFileTileDecoder& TVXFile::Private::tileDecoder()
     return *decoder;
 }
 
+bool TVXFile::Private::openDataFile(QIODevice::OpenMode mode)
+{
+    dataSize = -1;
+    return dataFile.open(mode);
+}
+
+quint64 TVXFile::Private::dataFileSize()
+{
+    if (dataSize < 0)
+        dataSize = dataFile.size();
+    return quint64(dataSize);
+}
+
 template <typename Read>
 bool TVXFile::Private::withDataFile(Read read)
 {
     const bool wasOpen = dataFile.isOpen();
-    if (!wasOpen && !dataFile.open(dataOpenMode))
+    if (!wasOpen && !openDataFile(dataOpenMode))
         return false;
     const bool ok = read();
     if (!wasOpen)
@@ -174,8 +175,8 @@ bool TVXFile::Private::withDataFile(Read read)
 
 bool TVXFile::Private::readBytes(quint64 offset, void* bytes, qint64 count)
 {
-    const qint64 size = dataFile.size();
-    if (offset > quint64(size) || count > size - qint64(offset))
+    const quint64 size = dataFileSize();
+    if (offset > size || quint64(count) > size - offset)
         return false;
     return dataFile.seek(qint64(offset)) && dataFile.read(static_cast<char*>(bytes), count) == count;
 }
@@ -192,6 +193,33 @@ bool TVXFile::Private::recordOf(quint32 column, quint32 row, quint64& offset) co
 bool TVXFile::Private::inGrid(quint32 column, quint32 row) const
 {
     return column < scanInfo->columns && row < scanInfo->rows;
+}
+
+std::size_t TVXFile::Private::cellsOnStep(quint32 step)
+{
+    const TVXFileScanInfo& info = *scanInfo;
+    const quint64 cells = quint64(info.columns) * info.rows;
+    if (info.recordSize() == 0 || cells > dataFileSize() / info.recordSize())
+        return 0;
+    return std::size_t((quint64(info.columns) + step - 1) / step * ((quint64(info.rows) + step - 1) / step));
+}
+
+template <typename Visit>
+bool TVXFile::Private::forEachCloudPoint(TVXFile& file, quint32 step, Visit visit)
+{
+    TVXFileTileDecoder& decoder = tileDecoder();
+    return file.forEachTileRecords([&](quint32 tileColumn, quint32 tileRow, const char* records, std::size_t size) {
+        return decoder.decodeEveryStep(
+            tileColumn, tileRow, records, size, step,
+            [&visit](const Vector3d& point, bool hasReturn, const unsigned char* record) {
+                // Checked as floats: a point beyond the float range would become infinite there.
+                const float x = float(point.x);
+                const float y = float(point.y);
+                const float z = float(point.z);
+                if (hasReturn && std::isfinite(x) && std::isfinite(y) && std::isfinite(z))
+                    visit(x, y, z, record);
+            });
+    });
 }
 
 TVXFile::TVXFile(const QString& path) : d(std::make_unique<Private>())
@@ -236,7 +264,7 @@ bool TVXFile::open(int mode)
         mode == 0 ? QIODevice::ReadOnly : QIODevice::ReadWrite | QIODevice::ExistingOnly;
     if (!d->scanFile.isOpen() && !d->scanFile.open(openMode))
         return false;
-    return d->dataFile.isOpen() || d->dataFile.open(openMode | QIODevice::Unbuffered);
+    return d->dataFile.isOpen() || d->openDataFile(openMode | QIODevice::Unbuffered);
 }
 
 bool TVXFile::close()
@@ -250,7 +278,7 @@ bool TVXFile::close()
 
 bool TVXFile::openData()
 {
-    return d->dataFile.isOpen() || d->dataFile.open(dataOpenMode);
+    return d->dataFile.isOpen() || d->openDataFile(dataOpenMode);
 }
 
 void TVXFile::closeData()
@@ -262,14 +290,25 @@ bool TVXFile::readHeader()
 {
     if (!d->scanFile.isOpen() || !d->dataFile.isOpen())
         return d->fail(QStringLiteral("the scan file and its data file are not open"));
-    d->dataFile.seek(0);
-    return readHeader(d->scanFile);
+    // The data file is not sought to its start: every read of it seeks to its own position, and
+    // opening a project of many scans feels each system call. For the same reason the scan file
+    // is read whole into memory: the section readers ask their device's size before every count
+    // and string, a system call each on a file. One too short or too large for that is read as is.
+    const qint64 size = d->scanFile.size();
+    if (size < minimumScanFileSize || size > maximumBufferedScanFile || !d->scanFile.seek(0))
+        return readHeader(d->scanFile);
+    QBuffer buffer;
+    buffer.setData(d->scanFile.read(size));
+    buffer.open(QIODevice::ReadOnly);
+    return readHeader(buffer);
 }
 
 bool TVXFile::readHeader(QIODevice& scanFile)
 {
     d->recreate();
-    if (scanFile.size() < minimumScanFileSize)
+    // Asked once: every size query is a system call.
+    const qint64 size = scanFile.size();
+    if (size < minimumScanFileSize)
         return d->fail(QStringLiteral("shorter than %1 bytes").arg(minimumScanFileSize));
     if (!scanFile.seek(0))
         return d->fail(QStringLiteral("cannot seek to the start"));
@@ -307,7 +346,7 @@ bool TVXFile::readHeader(QIODevice& scanFile)
     for (std::size_t i = 0; i < 4; ++i)
         if (d->offsets[i] == 0)
             return d->fail(QStringLiteral("the directory lacks section 0x%1").arg(sectionTags[i], 0, 16));
-    return d->readSections(scanFile, stream);
+    return d->readSections(scanFile, size, stream);
 }
 
 QString TVXFile::errorString() const
@@ -378,7 +417,7 @@ bool TVXFile::readPoint(quint32 column, quint32 row, double& x, double& y, doubl
     unsigned char record[5];
     if (!d->withDataFile([&] { return d->readBytes(offset, record, sizeof(record)); }))
         return false;
-    const quint32 millimetres = recordMillimetres(record);
+    const quint32 millimetres = TVXFileTileDecoder::millimetres(record);
     valid = millimetres != 0;
     const Vector3d point = valid ? pointOfCell(column, row, qint8(record[0]), qint8(record[1]), millimetres * 0.001,
                                                d->scanInfo->gridAngles())
@@ -397,7 +436,7 @@ bool TVXFile::readDistance(quint32 column, quint32 row, double& metres)
     unsigned char record[5];
     if (!d->withDataFile([&] { return d->readBytes(offset, record, sizeof(record)); }))
         return false;
-    metres = recordMillimetres(record) * 0.001;
+    metres = TVXFileTileDecoder::millimetres(record) * 0.001;
     return true;
 }
 
@@ -446,8 +485,8 @@ bool TVXFile::readTileRecords(quint32 tileColumn, quint32 tileRow, std::vector<c
         return false;
     return d->withDataFile([&] {
         // The size is checked against the file before the buffer grows to it.
-        const qint64 size = d->dataFile.size();
-        if (bounds.offset > quint64(size) || bounds.bytes > quint64(size) - bounds.offset)
+        const quint64 size = d->dataFileSize();
+        if (bounds.offset > size || bounds.bytes > size - bounds.offset)
             return false;
         records.resize(std::size_t(bounds.bytes));
         return d->readBytes(bounds.offset, records.data(), qint64(bounds.bytes));
@@ -460,28 +499,181 @@ bool TVXFile::readTile(quint32 tileColumn, quint32 tileRow, TVXFileTile& tile)
            && d->tileDecoder().decode(tileColumn, tileRow, d->records.data(), d->records.size(), tile);
 }
 
+bool TVXFile::forEachTileRecords(const TileRecordsVisit& visit)
+{
+    const TVXFileTileDecoder& decoder = d->tileDecoder();
+    const quint32 tilesX = d->scanInfo->tilesX();
+    const quint32 tilesY = d->scanInfo->tilesY();
+    return d->withDataFile([&] {
+        const quint64 size = d->dataFileSize();
+        std::vector<char> records; // not the tile reads' buffer: visit may read tiles
+        for (quint32 tileColumn = 0; tileColumn < tilesX; ++tileColumn) {
+            for (quint32 tileRow = 0; tileRow < tilesY;) {
+                // A run of tiles that follow each other in the file (positions wrap at 4 GiB).
+                std::vector<TVXFileTileDecoder::TileBounds> run(1);
+                if (!decoder.tileBounds(tileColumn, tileRow, run[0]))
+                    return false;
+                quint64 bytes = run[0].bytes;
+                TVXFileTileDecoder::TileBounds next;
+                while (tileRow + run.size() < tilesY
+                       && decoder.tileBounds(tileColumn, tileRow + quint32(run.size()), next)
+                       && next.offset == run[0].offset + bytes && bytes + next.bytes <= tileRunBytes) {
+                    bytes += next.bytes;
+                    run.push_back(next);
+                }
+                // Checked against the file before the buffer grows to it.
+                if (run[0].offset > size || bytes > size - run[0].offset)
+                    return false;
+                records.resize(std::size_t(bytes));
+                if (!d->readBytes(run[0].offset, records.data(), qint64(bytes)))
+                    return false;
+                for (const TVXFileTileDecoder::TileBounds& tile : run) {
+                    if (!visit(tileColumn, tileRow++, records.data() + (tile.offset - run[0].offset),
+                               std::size_t(tile.bytes)))
+                        return false;
+                }
+            }
+        }
+        return true;
+    });
+}
+
 bool TVXFile::extractPointCloud(quint32 step, std::vector<float>& xyz)
 {
     const TVXFileScanInfo& info = *d->scanInfo;
     xyz.clear();
     if (!info.hasDistance() || step == 0 || info.tileSize == 0)
         return false;
+    TVXFileTileDecoder& decoder = d->tileDecoder();
     return d->withDataFile([&] {
-        // Reserve only what the data file really holds.
-        const quint64 cells = quint64(info.columns) * info.rows;
-        if (cells <= quint64(d->dataFile.size()) / info.recordSize())
-            xyz.reserve(
-                std::size_t((quint64(info.columns) + step - 1) / step * ((quint64(info.rows) + step - 1) / step) * 3));
-        TVXFileTile tile;
-        for (quint32 tileColumn = 0; tileColumn < info.tilesX(); ++tileColumn) {
-            for (quint32 tileRow = 0; tileRow < info.tilesY(); ++tileRow) {
-                if (!readTile(tileColumn, tileRow, tile))
-                    return false;
-                appendEveryStep(tile, step, xyz);
-            }
-        }
-        return true;
+        xyz.reserve(3 * d->cellsOnStep(step));
+        return forEachTileRecords([&](quint32 tileColumn, quint32 tileRow, const char* records, std::size_t size) {
+            return decoder.decodeEveryStep(tileColumn, tileRow, records, size, step,
+                                           [&xyz](const Vector3d& point, bool, const unsigned char*) {
+                                               xyz.push_back(float(point.x));
+                                               xyz.push_back(float(point.y));
+                                               xyz.push_back(float(point.z));
+                                           });
+        });
     });
+}
+
+namespace {
+
+// The bytes of a record's colour as the cloud shows it: three colour bytes, or the intensity
+// repeated as grey.
+struct ColourPick {
+    quint32 offset = 0;
+    bool grey = false;
+
+    void append(const unsigned char* record, std::vector<quint8>& rgb) const
+    {
+        const unsigned char* at = record + offset;
+        if (grey)
+            rgb.insert(rgb.end(), 3, at[0]);
+        else
+            rgb.insert(rgb.end(), at, at + 3);
+    }
+};
+
+ColourPick colourPick(const TVXFileScanInfo& info, TVXFile::PointCloud::Colours colours)
+{
+    const bool grey = colours == TVXFile::PointCloud::IntensityGrey;
+    return {grey ? info.intensityOffset() : info.colourOffset(), grey};
+}
+
+bool finite(const Vector3d& v)
+{
+    return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
+}
+
+} // namespace
+
+Vector3d TVXFile::PointCloud::centre() const
+{
+    return (boxMin + boxMax) * 0.5;
+}
+
+double TVXFile::PointCloud::radius() const
+{
+    return (boxMax - boxMin).length() * 0.5;
+}
+
+bool TVXFile::readPointCloud(quint32 step, PointCloud::Colours wanted, PointCloud& cloud)
+{
+    cloud = PointCloud();
+    const TVXFileScanInfo& info = *d->scanInfo;
+    if (!info.hasDistance() || step == 0 || info.tileSize == 0)
+        return false;
+    cloud.colours = pointCloudColours(wanted);
+    const ColourPick pick = colourPick(info, cloud.colours);
+    constexpr float huge = std::numeric_limits<float>::max();
+    float low[3] = {huge, huge, huge};
+    float high[3] = {-huge, -huge, -huge};
+    const bool read = d->withDataFile([&] {
+        const std::size_t cells = d->cellsOnStep(step);
+        cloud.xyz.reserve(3 * cells);
+        if (cloud.colours != PointCloud::NoColours)
+            cloud.rgb.reserve(3 * cells);
+        return d->forEachCloudPoint(*this, step, [&](float x, float y, float z, const unsigned char* record) {
+            const float p[3] = {x, y, z};
+            for (int i = 0; i < 3; ++i) {
+                low[i] = std::min(low[i], p[i]);
+                high[i] = std::max(high[i], p[i]);
+            }
+            cloud.xyz.insert(cloud.xyz.end(), p, p + 3);
+            if (cloud.colours != PointCloud::NoColours)
+                pick.append(record, cloud.rgb);
+        });
+    });
+    if (!read) {
+        cloud = PointCloud();
+        return false;
+    }
+    // A box that is inverted (the empty default), not finite, or too large to measure is not used.
+    cloud.boxMin = info.boundingBoxMin;
+    cloud.boxMax = info.boundingBoxMax;
+    const bool storedBoxUsable = finite(cloud.centre()) && std::isfinite(cloud.radius())
+                                 && cloud.boxMin.x <= cloud.boxMax.x && cloud.boxMin.y <= cloud.boxMax.y
+                                 && cloud.boxMin.z <= cloud.boxMax.z;
+    if (!storedBoxUsable) {
+        const bool anyPoint = cloud.size() > 0;
+        cloud.boxMin = anyPoint ? Vector3d(low[0], low[1], low[2]) : Vector3d();
+        cloud.boxMax = anyPoint ? Vector3d(high[0], high[1], high[2]) : Vector3d();
+    }
+    return true;
+}
+
+TVXFile::PointCloud::Colours TVXFile::pointCloudColours(PointCloud::Colours wanted) const
+{
+    const bool colour = d->scanInfo->hasColour();
+    const bool intensity = d->scanInfo->hasIntensity();
+    if (wanted == PointCloud::NoColours || (!colour && !intensity))
+        return PointCloud::NoColours;
+    if ((wanted == PointCloud::ScanColours && colour) || !intensity)
+        return PointCloud::ScanColours;
+    return PointCloud::IntensityGrey;
+}
+
+bool TVXFile::readPointCloudColours(quint32 step, PointCloud::Colours wanted, std::vector<quint8>& rgb,
+                                    PointCloud::Colours& given)
+{
+    rgb.clear();
+    const TVXFileScanInfo& info = *d->scanInfo;
+    given = pointCloudColours(wanted);
+    if (!info.hasDistance() || step == 0 || info.tileSize == 0)
+        return false;
+    if (given == PointCloud::NoColours)
+        return true;
+    const ColourPick pick = colourPick(info, given);
+    const bool read = d->withDataFile([&] {
+        rgb.reserve(3 * d->cellsOnStep(step));
+        return d->forEachCloudPoint(
+            *this, step, [&](float, float, float, const unsigned char* record) { pick.append(record, rgb); });
+    });
+    if (!read)
+        rgb.clear();
+    return read;
 }
 
 } // namespace TVX::CORE

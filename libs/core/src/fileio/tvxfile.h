@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -96,10 +97,48 @@ public:
     // The undecoded records of a tile, as stored (column by column), in one read. False as readTile.
     bool readTileRecords(quint32 tileColumn, quint32 tileRow, std::vector<char>& records);
 
+    // The undecoded records of every tile in tile order (tile columns outer), handed to
+    // visit(tileColumn, tileRow, records, size). Neighbouring tiles of a strip lie one after the
+    // other in the data file and are read together, a few MiB at a time. False as readTile when a
+    // read fails (the tiles of that read are not visited), or when visit returns false.
+    using TileRecordsVisit =
+        std::function<bool(quint32 tileColumn, quint32 tileRow, const char* records, std::size_t size)>;
+    bool forEachTileRecords(const TileRecordsVisit& visit);
+
     // Every cell whose column and row are multiples of `step`, in tile order (tile columns outer),
-    // as x, y, z single-precision triples; invalid cells as (0, 0, 0). False without a distance
-    // channel, for a step of 0 or when a tile read fails.
+    // as x, y, z single-precision triples; invalid cells as (0, 0, 0). Only those cells are
+    // decoded. False without a distance channel, for a step of 0 or when a tile read fails.
     bool extractPointCloud(quint32 step, std::vector<float>& xyz);
+
+    // A scan's points as the point cloud view shows them: 12 bytes of coordinates and 3 of colour
+    // per point, nothing else.
+    struct PointCloud {
+        // Where the per-point colours come from.
+        enum Colours { NoColours, ScanColours, IntensityGrey };
+
+        std::vector<float> xyz;  // x, y, z per point: scan frame, metres
+        std::vector<quint8> rgb; // r, g, b per point; empty with NoColours
+        Colours colours = NoColours;
+        // The scan information's bounding box; the points' own when that one is empty or not
+        // finite; all zero without either.
+        Vector3d boxMin;
+        Vector3d boxMax;
+
+        std::size_t size() const { return xyz.size() / 3; }
+        Vector3d centre() const;
+        double radius() const; // of the box's circumscribed sphere
+    };
+    // The cells with a return whose column and row are multiples of `step`, in tile order (as
+    // extractPointCloud), and of these only the points with finite coordinates: a degenerate angle
+    // range gives none. Colours from `wanted`, else from the other per-point channel (colour or
+    // intensity as grey), else none. False as extractPointCloud; `cloud` is then empty.
+    bool readPointCloud(quint32 step, PointCloud::Colours wanted, PointCloud& cloud);
+    // The colours that readPointCloud gives for `wanted`, from the channels alone.
+    PointCloud::Colours pointCloudColours(PointCloud::Colours wanted) const;
+    // The colours alone of the points that readPointCloud gives, chosen the same way; `given`
+    // says which came. For switching the colours of a cloud whose copies were dropped.
+    bool readPointCloudColours(quint32 step, PointCloud::Colours wanted, std::vector<quint8>& rgb,
+                               PointCloud::Colours& given);
 
 private:
     struct Private;

@@ -8,11 +8,15 @@
 #include "fileio/tvxfilereferenceinfo.h"
 #include "fileio/tvxfilescaninfo.h"
 #include "fileio/tvxfilesceneitems.h"
+#include "fileio/tvxfiletiledecoder.h"
 #include "scene/scanviewscenegraph.h"
 
 #include <QByteArray>
 #include <QDataStream>
 #include <QSaveFile>
+
+#include <algorithm>
+#include <limits>
 
 namespace TVX::CORE {
 
@@ -84,9 +88,10 @@ struct TVXFileWriter::Private {
     std::shared_ptr<ScanViewSceneGraph> scene3D = std::make_shared<ScanViewSceneGraph>();
     std::function<TVXFileCell(quint32, quint32)> source;
     std::function<void(quint64, quint64)> progress;
+    bool measureBoundingBox = false;
 
     bool buildScanFile(const TVXFileWriter& writer, QByteArray& bytes, QString* error) const;
-    bool writeDataFile(const QString& path, QString* error) const;
+    bool writeDataFile(const QString& path, QString* error);
 };
 
 bool TVXFileWriter::Private::buildScanFile(const TVXFileWriter& writer, QByteArray& bytes, QString* error) const
@@ -99,6 +104,7 @@ bool TVXFileWriter::Private::buildScanFile(const TVXFileWriter& writer, QByteArr
         [&](QDataStream& stream) { sceneItems.write(stream, scene3D.get()); },
     };
     std::array<QByteArray, 5> sections;
+    bytes.clear(); // a stream on a byte array writes over it from the start, without truncating
     for (std::size_t i = 0; i < sections.size(); ++i) {
         QDataStream stream(&sections[i], QIODevice::WriteOnly);
         prepareScanFileStream(stream);
@@ -126,7 +132,7 @@ bool TVXFileWriter::Private::buildScanFile(const TVXFileWriter& writer, QByteArr
     return true;
 }
 
-bool TVXFileWriter::Private::writeDataFile(const QString& path, QString* error) const
+bool TVXFileWriter::Private::writeDataFile(const QString& path, QString* error)
 {
     const quint32 columns = scanInfo.columns;
     const quint32 rows = scanInfo.rows;
@@ -158,10 +164,21 @@ bool TVXFileWriter::Private::writeDataFile(const QString& path, QString* error) 
     const RecordLayout layout(scanInfo);
     std::vector<char> record(recordSize);
     chunk.reserve(qsizetype(2 * flushBytes));
+    TVXFileTileDecoder decoder(scanInfo);
+    constexpr double huge = std::numeric_limits<double>::max();
+    Vector3d low(huge, huge, huge);
+    Vector3d high(-huge, -huge, -huge);
+    const auto extend = [&low, &high](const Vector3d& point, bool hasReturn, const unsigned char*) {
+        if (!hasReturn)
+            return;
+        low = {std::min(low.x, point.x), std::min(low.y, point.y), std::min(low.z, point.z)};
+        high = {std::max(high.x, point.x), std::max(high.y, point.y), std::max(high.z, point.z)};
+    };
     for (quint32 tileColumn = 0; tileColumn < tilesX; ++tileColumn) {
         const quint32 width = tileExtent(tileColumn, columns, tileSize);
         for (quint32 tileRow = 0; tileRow < tilesY; ++tileRow) {
             const quint32 height = tileExtent(tileRow, rows, tileSize);
+            const qsizetype tileStart = chunk.size();
             for (quint32 column = tileColumn * tileSize; column < tileColumn * tileSize + width; ++column) {
                 for (quint32 row = tileRow * tileSize; row < tileRow * tileSize + height; ++row) {
                     const TVXFileCell cell = source ? source(column, row) : TVXFileCell();
@@ -176,6 +193,9 @@ bool TVXFileWriter::Private::writeDataFile(const QString& path, QString* error) 
                     chunk.append(record.data(), qsizetype(recordSize));
                 }
             }
+            if (measureBoundingBox)
+                decoder.decodeEveryStep(tileColumn, tileRow, chunk.constData() + tileStart,
+                                        std::size_t(chunk.size() - tileStart), 1, extend);
             done += quint64(width) * height;
             if (std::size_t(chunk.size()) >= flushBytes) {
                 if (!writeAll(file, chunk, error))
@@ -192,6 +212,10 @@ bool TVXFileWriter::Private::writeDataFile(const QString& path, QString* error) 
         return false;
     if (!file.commit())
         return failWith(error, QStringLiteral("cannot write %1: %2").arg(path, file.errorString()));
+    if (measureBoundingBox) {
+        scanInfo.boundingBoxMin = low;
+        scanInfo.boundingBoxMax = high;
+    }
     if (progress)
         progress(total, total);
     return true;
@@ -242,12 +266,20 @@ void TVXFileWriter::setProgress(std::function<void(quint64, quint64)> progress)
     d->progress = std::move(progress);
 }
 
+void TVXFileWriter::setMeasureBoundingBox(bool measure)
+{
+    d->measureBoundingBox = measure;
+}
+
 bool TVXFileWriter::write(const QString& scanPath, QString* error)
 {
+    // Built before the data too, so that a section the file cannot store fails before anything is written.
     QByteArray scanBytes;
     if (!d->buildScanFile(*this, scanBytes, error))
         return false;
     if (!d->writeDataFile(TVXFile::dataPathFor(scanPath), error))
+        return false;
+    if (d->measureBoundingBox && !d->buildScanFile(*this, scanBytes, error))
         return false;
     QSaveFile scanFile(scanPath);
     if (!scanFile.open(QIODevice::WriteOnly))

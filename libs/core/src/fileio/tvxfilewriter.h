@@ -55,6 +55,10 @@ public:
     void setCellSource(std::function<TVXFileCell(quint32 column, quint32 row)> source);
     // Called with (cells done, cells total) at the start, now and then, and at the end.
     void setProgress(std::function<void(quint64, quint64)> progress);
+    // When set, write() gives the scan information the bounding box of the points that the written
+    // records hold (cells with a return, decoded as TVXFile reads them), empty when there is none,
+    // and leaves it in scanInfo().
+    void setMeasureBoundingBox(bool measure);
 
     // Writes `scanPath` and the data file beside it (TVXFile::dataPathFor), each replaced only when
     // complete. False with a reason in `error` when a file cannot be written, the tile size is 0

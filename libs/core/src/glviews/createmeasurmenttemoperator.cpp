@@ -1,5 +1,7 @@
 #include "glviews/createmeasurmenttemoperator.h"
 
+#include "scene/scanviewscenegraph.h"
+
 #include <QLoggingCategory>
 
 Q_LOGGING_CATEGORY(lcMeasurementOperator, "tvx.glviews.operators.measurement", QtWarningMsg)
@@ -16,6 +18,20 @@ void CreateMeasurmenttemOperator::setMeasurementKind(int kind)
         return;
     }
     m_kind = kind;
+}
+
+std::shared_ptr<ScanViewItem> CreateMeasurmenttemOperator::startItem(ScanViewSceneGraph& graph,
+                                                                     const Vector3d& first, const Matrix3d&)
+{
+    m_first = first;
+    const auto measurement = std::make_shared<ScanViewMeasurementItem>(m_kind, first, first);
+    graph.addItem(measurement);
+    return measurement;
+}
+
+void CreateMeasurmenttemOperator::followCursor(const Vector3d& direction)
+{
+    item()->setPoints({m_first, direction});
 }
 
 } // namespace TVX::CORE

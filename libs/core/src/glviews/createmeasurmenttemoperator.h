@@ -1,12 +1,13 @@
 #pragma once
 
-#include "glviews/lensenabledoperator.h"
+#include "glviews/createitemoperator.h"
 
 namespace TVX::CORE {
 
-// Draws a measurement between two picked points (the class name's spelling is kept). The main
-// window sets the kind before it switches to the operator's mode.
-class CreateMeasurmenttemOperator : public LensEnabledOperator
+// Draws a measurement between two picked points (the class name's spelling is kept): click,
+// move, click; the right button abandons it. The main window sets the kind before it switches to
+// the operator's mode.
+class CreateMeasurmenttemOperator : public CreateItemOperator
 {
 public:
     enum MeasurementKind { Distance3D = 0, DeltaZ = 1, DistanceXY = 2 };
@@ -18,8 +19,14 @@ public:
     void setMeasurementKind(int kind);
     int measurementKind() const { return m_kind; }
 
+protected:
+    std::shared_ptr<ScanViewItem> startItem(ScanViewSceneGraph& graph, const Vector3d& first,
+                                            const Matrix3d& axes) override;
+    void followCursor(const Vector3d& direction) override;
+
 private:
     int m_kind{Distance3D};
+    Vector3d m_first;
 };
 
 } // namespace TVX::CORE

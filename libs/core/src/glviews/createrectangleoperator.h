@@ -1,15 +1,24 @@
 #pragma once
 
-#include "glviews/lensenabledoperator.h"
+#include "glviews/createitemoperator.h"
 
 namespace TVX::CORE {
 
-// Draws a rectangle aligned with the camera: click, move, click.
-class CreateRectangleOperator : public LensEnabledOperator
+// Draws a rectangle aligned with the camera: click, move, click; the right button abandons it.
+class CreateRectangleOperator : public CreateItemOperator
 {
 public:
     CreateRectangleOperator();
     ~CreateRectangleOperator() override;
+
+protected:
+    std::shared_ptr<ScanViewItem> startItem(ScanViewSceneGraph& graph, const Vector3d& first,
+                                            const Matrix3d& axes) override;
+    void followCursor(const Vector3d& direction) override;
+
+private:
+    Vector3d m_first;
+    Matrix3d m_axes;
 };
 
 } // namespace TVX::CORE

@@ -1,15 +1,19 @@
 #pragma once
 
-#include "glviews/lensenabledoperator.h"
+#include "glviews/modifyitemoperator.h"
 
 namespace TVX::CORE {
 
-// Changes an existing ellipse.
-class ModifyEllipseOperator : public LensEnabledOperator
+// Changes the ellipses of a spherical view: the centre handle moves the whole ellipse, the two axis ends change its axes.
+class ModifyEllipseOperator : public ModifyItemOperator
 {
 public:
     ModifyEllipseOperator();
     ~ModifyEllipseOperator() override;
+
+protected:
+    std::vector<std::shared_ptr<ScanViewItem>> items(const ScanViewSceneGraph& graph) const override;
+    void moveHandle(ScanViewItem& item, std::size_t index, const Vector3d& direction) const override;
 };
 
 } // namespace TVX::CORE

@@ -1,15 +1,18 @@
 #pragma once
 
-#include "glviews/lensenabledoperator.h"
+#include "glviews/modifyitemoperator.h"
 
 namespace TVX::CORE {
 
-// Changes an existing measurement (the class name's spelling is kept).
-class ModifyMeasurementtemOperator : public LensEnabledOperator
+// Moves the ends of the measurements of a spherical view (the class name's spelling is kept).
+class ModifyMeasurementtemOperator : public ModifyItemOperator
 {
 public:
     ModifyMeasurementtemOperator();
     ~ModifyMeasurementtemOperator() override;
+
+protected:
+    std::vector<std::shared_ptr<ScanViewItem>> items(const ScanViewSceneGraph& graph) const override;
 };
 
 } // namespace TVX::CORE

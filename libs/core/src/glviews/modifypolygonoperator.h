@@ -1,15 +1,18 @@
 #pragma once
 
-#include "glviews/lensenabledoperator.h"
+#include "glviews/modifyitemoperator.h"
 
 namespace TVX::CORE {
 
-// Changes an existing polygon.
-class ModifyPolygonOperator : public LensEnabledOperator
+// Moves the vertices of the polygons of a spherical view.
+class ModifyPolygonOperator : public ModifyItemOperator
 {
 public:
     ModifyPolygonOperator();
     ~ModifyPolygonOperator() override;
+
+protected:
+    std::vector<std::shared_ptr<ScanViewItem>> items(const ScanViewSceneGraph& graph) const override;
 };
 
 } // namespace TVX::CORE

@@ -1,15 +1,18 @@
 #pragma once
 
-#include "glviews/lensenabledoperator.h"
+#include "glviews/modifyitemoperator.h"
 
 namespace TVX::CORE {
 
-// Changes an existing text item.
-class ModifyTextItemOperator : public LensEnabledOperator
+// Moves the texts of a spherical view by their anchors.
+class ModifyTextItemOperator : public ModifyItemOperator
 {
 public:
     ModifyTextItemOperator();
     ~ModifyTextItemOperator() override;
+
+protected:
+    std::vector<std::shared_ptr<ScanViewItem>> items(const ScanViewSceneGraph& graph) const override;
 };
 
 } // namespace TVX::CORE

@@ -1,6 +1,7 @@
 #include "glviews/scanviewoperator.h"
 
 #include "glviews/scanviewevent.h"
+#include "glviews/sphericalviewcontrol.h"
 
 namespace TVX::CORE {
 
@@ -61,9 +62,28 @@ void ScanViewOperator::setActiveViewProvider(ActiveViewProvider provider)
     m_provider = std::move(provider);
 }
 
+void ScanViewOperator::setHost(ScanViewOperatorHost* host)
+{
+    m_host = host;
+}
+
 ActiveView ScanViewOperator::activeView() const
 {
     return m_provider ? m_provider() : ActiveView{};
+}
+
+SphericalViewControl* ScanViewOperator::activeSphericalView() const
+{
+    const ActiveView view = activeView();
+    return view.isSpherical() ? view.spherical : nullptr;
+}
+
+SphericalViewControl* ScanViewOperator::gestureView() const
+{
+    const ActiveView view = activeView();
+    if (!view.isSpherical() || !m_gestureSubWindow || view.subWindow != m_gestureSubWindow)
+        return nullptr;
+    return view.spherical;
 }
 
 } // namespace TVX::CORE

@@ -8,6 +8,8 @@
 namespace TVX::CORE {
 
 struct ScanViewEvent;
+class ScanViewOperatorHost;
+class SphericalViewControl;
 
 // An operator of the GL views: it turns view events into actions on the active spherical view.
 // Operators are shared between the mode lists of the operator manager; each event operation
@@ -36,6 +38,8 @@ public:
 
     // Without a provider no sub window counts as active.
     void setActiveViewProvider(ActiveViewProvider provider);
+    // Where picks, the lens and modified annotations are reported; without one they are not.
+    void setHost(ScanViewOperatorHost* host);
 
     // The view on which the last gesture began; the sub window is empty unless it is spherical.
     quint32 gestureScanId() const { return m_gestureScanId; }
@@ -45,11 +49,17 @@ public:
 protected:
     // The active sub window now.
     ActiveView activeView() const;
+    ScanViewOperatorHost* host() const { return m_host; }
+    // The active view when it is spherical, else null; valid while the event is handled.
+    SphericalViewControl* activeSphericalView() const;
+    // The active view when it is the spherical view on which the last gesture began, else null.
+    SphericalViewControl* gestureView() const;
 
 private:
     Q_DISABLE_COPY(ScanViewOperator)
 
     ActiveViewProvider m_provider;
+    ScanViewOperatorHost* m_host{nullptr};
     quint32 m_gestureScanId{0};
     quint32 m_gestureViewType{ActiveView::None};
     QPointer<QWidget> m_gestureSubWindow;

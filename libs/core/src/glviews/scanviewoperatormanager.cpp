@@ -32,6 +32,7 @@ struct ScanViewOperatorManager::Private {
     quint32 currentMode{NoMode};
     std::map<quint32, OperatorList> lists;
     ActiveViewProvider provider;
+    ScanViewOperatorHost* host{nullptr};
 };
 
 ScanViewOperatorManager::ScanViewOperatorManager()
@@ -92,8 +93,10 @@ void ScanViewOperatorManager::setOperators(quint32 mode, OperatorList operators)
         qCWarning(lcOperators) << "left out" << (operators.end() - nulls) << "missing operators of mode" << mode;
         operators.erase(nulls, operators.end());
     }
-    for (const auto& op : operators)
+    for (const auto& op : operators) {
         op->setActiveViewProvider(d->provider);
+        op->setHost(d->host);
+    }
     d->lists[mode] = std::move(operators);
 }
 
@@ -176,6 +179,15 @@ void ScanViewOperatorManager::setActiveViewProvider(ActiveViewProvider provider)
     for (const auto& entry : d->lists) {
         for (const auto& op : entry.second)
             op->setActiveViewProvider(d->provider);
+    }
+}
+
+void ScanViewOperatorManager::setHost(ScanViewOperatorHost* host)
+{
+    d->host = host;
+    for (const auto& entry : d->lists) {
+        for (const auto& op : entry.second)
+            op->setHost(host);
     }
 }
 

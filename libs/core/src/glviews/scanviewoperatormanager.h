@@ -10,6 +10,7 @@
 namespace TVX::CORE {
 
 class ScanViewOperator;
+class ScanViewOperatorHost;
 struct ScanViewEvent;
 
 // Holds, for each interaction mode of the GL views, an ordered list of operators and offers each
@@ -66,6 +67,8 @@ public:
 
     // How the operators learn the active sub window; without one, none is active.
     void setActiveViewProvider(ActiveViewProvider provider);
+    // Where the operators report picks, the lens and changed annotations.
+    void setHost(ScanViewOperatorHost* host);
 
 private:
     Q_DISABLE_COPY(ScanViewOperatorManager)

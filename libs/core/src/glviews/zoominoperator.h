@@ -10,6 +10,8 @@ class ZoomInOperator : public ScanViewOperator
 public:
     ZoomInOperator();
     ~ZoomInOperator() override;
+
+    bool mousePress(const ScanViewEvent& event) override;
 };
 
 } // namespace TVX::CORE

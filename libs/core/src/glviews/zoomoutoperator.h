@@ -10,6 +10,8 @@ class ZoomOutOperator : public ScanViewOperator
 public:
     ZoomOutOperator();
     ~ZoomOutOperator() override;
+
+    bool mousePress(const ScanViewEvent& event) override;
 };
 
 } // namespace TVX::CORE

@@ -2,7 +2,10 @@
 
 #include "glviews/createmeasurmenttemoperator.h"
 #include "glviews/scanviewevent.h"
+#include "glviews/pointcloudviewglwidget.h"
+#include "glviews/scanviewoperatorhost.h"
 #include "glviews/scanviewoperatormanager.h"
+#include "glviews/sphericalviewglwidget.h"
 #include "mainwindow/application.h"
 #include "mainwindow/filetreeview.h"
 #include "mainwindow/interactionmodes.h"
@@ -10,10 +13,13 @@
 #include "mainwindow/logtableview.h"
 #include "mainwindow/mdicontextmenu.h"
 #include "mainwindow/mdiplanarviewsubwindow.h"
+#include "mainwindow/mdipointcloudviewsubwindow.h"
+#include "mainwindow/mdisphericalviewsubwindow.h"
 #include "mainwindow/planarviewcontent.h"
 #include "mainwindow/pointinfotablemodel.h"
 #include "mainwindow/pointinfotableviewwidget.h"
 #include "mainwindow/recentprojectlist.h"
+#include "mainwindow/sphericalviewcontent.h"
 #include "mainwindow/userdialogs.h"
 #include "fileio/tvxfilescaninfo.h"
 #include "annotations/sceneitemstablemodel.h"
@@ -49,6 +55,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <exception>
 
 Q_LOGGING_CATEGORY(lcMainWindow, "tvx.mainwindow", QtInfoMsg)
 
@@ -81,7 +88,42 @@ QString fixed3(double value)
     return QString::number(value, 'f', 3);
 }
 
+QString panoramaPath(const QString& scanFilePath)
+{
+    const QFileInfo scanFile(scanFilePath);
+    return scanFile.absolutePath() + QLatin1Char('/') + scanFile.completeBaseName() + QStringLiteral(".jpg");
+}
+
 } // namespace
+
+// What the GL views' operators ask of the window.
+class BasicMainWindow::OperatorHost final : public ScanViewOperatorHost
+{
+public:
+    explicit OperatorHost(BasicMainWindow& window) : m_window(window) {}
+
+    void pickCell(quint32 scanId, qint32 column, qint32 row) override
+    {
+        m_window.pointSelectionInPlanarView(scanId, column, row);
+    }
+    void showLens(bool shown) override { m_window.lensModeEnabled(shown); }
+    void showLensAt(quint32 scanId, qint32 column, qint32 row) override { m_window.updateLens(scanId, column, row); }
+    void annotationsModified(quint32 scanId) override { m_window.scanWasModified(scanId); }
+    void clearItemSelection() override
+    {
+        for (QMdiSubWindow* window : m_window.mdiArea()->subWindowList()) {
+            if (auto* planar = qobject_cast<MDIPlanarViewSubWindow*>(window))
+                planar->scene()->clearSelection();
+        }
+    }
+    bool askItemText(QString& text) override
+    {
+        return m_window.userDialogs().textLine(BasicMainWindow::tr("Add Text"), BasicMainWindow::tr("Text:"), text);
+    }
+
+private:
+    BasicMainWindow& m_window;
+};
 
 struct BasicMainWindow::Private {
     std::unique_ptr<UserDialogs> dialogs;
@@ -122,6 +164,7 @@ struct BasicMainWindow::Private {
     QSignalMapper* dimensioningMapper{nullptr};
     QSignalMapper* recentMapper{nullptr};
     QList<QAction*> recentActions;
+    std::unique_ptr<OperatorHost> operatorHost;
 };
 
 BasicMainWindow::BasicMainWindow(QWidget* parent, Qt::WindowFlags flags)
@@ -134,12 +177,38 @@ BasicMainWindow::BasicMainWindow(QWidget* parent, Qt::WindowFlags flags)
     createToolBars();
     createMenus();
     createConnections();
+    connectOperators();
     d->recent.load(QSettings());
     rebuildRecentMenu();
     updateWindowTitle(QString());
 }
 
-BasicMainWindow::~BasicMainWindow() = default;
+BasicMainWindow::~BasicMainWindow()
+{
+    // The operators outlive the window; they must not reach it any more.
+    operators().setHost(nullptr);
+    operators().setActiveViewProvider(nullptr);
+}
+
+void BasicMainWindow::connectOperators()
+{
+    d->operatorHost = std::make_unique<OperatorHost>(*this);
+    ScanViewOperatorManager& manager = operators();
+    manager.setHost(d->operatorHost.get());
+    manager.setActiveViewProvider([this] {
+        ActiveView view;
+        // The current one stays current while another application has the focus.
+        auto* sub = qobject_cast<MdiSubWindow*>(d->mdiArea->currentSubWindow());
+        if (!sub)
+            return view;
+        view.subWindow = sub;
+        view.scanId = sub->scanId();
+        view.type = quint32(sub->subWindowType());
+        if (auto* spherical = qobject_cast<MDISphericalViewSubWindow*>(sub))
+            view.spherical = spherical->glWidget();
+        return view;
+    });
+}
 
 void BasicMainWindow::setUserDialogs(std::unique_ptr<UserDialogs> dialogs)
 {
@@ -798,12 +867,83 @@ void BasicMainWindow::openPlanarView(quint32 scanId)
 
 void BasicMainWindow::openSphericalView(quint32 scanId)
 {
-    log(LogTableModel::Information, tr("Spherical views are not available in this version (scan %1).").arg(scanId));
+    const BusyCursor busy;
+    if (MdiSubWindow* existing = findSubWindow(scanId, MdiSubWindow::SphericalView)) {
+        d->mdiArea->setActiveSubWindow(existing);
+        return;
+    }
+    BasicProject& p = project();
+    if (p.scanIndex(scanId) < 0)
+        return;
+    const auto file = p.scanFileOf(scanId);
+    const auto graph = p.sceneGraph(scanId);
+    const QString imagePath = file ? panoramaPath(file->path()) : QString();
+    const QPixmap panorama(imagePath);
+    if (!file || !graph || panorama.isNull()) {
+        log(LogTableModel::Warning, file ? tr("The panorama %1 cannot be read.").arg(QDir::toNativeSeparators(imagePath))
+                                         : tr("The scan %1 cannot be read.").arg(scanId));
+        warn(tr("Open a new View Failed"),
+             tr("Tarvenix was unable to open a new scan view. Please close some other views and try again."));
+        return;
+    }
+    const TVXFileScanInfo& info = file->scanInfo();
+    auto* sub = new MDISphericalViewSubWindow(scanId, panorama, graph, info.horizontalMin, info.horizontalMax,
+                                              info.verticalMin, info.verticalMax);
+    sub->setWindowTitle(tr("Spherical View: ") + QFileInfo(file->path()).fileName());
+    sub->setContextMenu(buildContextMenu(MdiSubWindow::SphericalView, scanId));
+    connect(sub, &MdiSubWindow::signalAboutToClose, this, &BasicMainWindow::closeSphericalView);
+
+    SphericalViewGLWidget* view = sub->glWidget();
+    view->setGridSize(info.columns, info.rows);
+    view->setOperatorManager(&operators());
+    view->setMeasurementLabeler([view](const ScanViewMeasurementItem& item) {
+        return SphericalViewContent::measurementLabel(project(), *view, item);
+    });
+    connect(view, &SphericalViewGLWidget::signalDBLClickStationMarkSphericalView, this,
+            &BasicMainWindow::openViewWithPreferredStyle);
+    connect(this, &BasicMainWindow::cursorContextChanged, view, [view](CursorId cursor) { view->setCursorMode(int(cursor)); });
+
+    p.setViewOpen(scanId, BasicProject::SphericalView, true);
+    placeStationMarks(view);
+    addScanSubWindow(sub);
+    sub->resize(d->mdiArea->size() * 0.8);
+    sub->show();
+    // The scan's measurements and other items live in its scene graph, which the view draws.
+    reportAnnotationLoad(scanId);
 }
 
 void BasicMainWindow::openPointcloudView(quint32 scanId)
 {
-    log(LogTableModel::Information, tr("Point cloud views are not available in this version (scan %1).").arg(scanId));
+    const BusyCursor busy;
+    if (MdiSubWindow* existing = findSubWindow(scanId, MdiSubWindow::PointcloudView)) {
+        d->mdiArea->setActiveSubWindow(existing);
+        return;
+    }
+    BasicProject& p = project();
+    if (p.scanIndex(scanId) < 0)
+        return;
+    const auto file = p.scanFileOf(scanId);
+    MDIPointcloudViewSubWindow* sub = nullptr;
+    QString reason;
+    try {
+        if (file)
+            sub = new MDIPointcloudViewSubWindow(scanId, file->path(), file, QColor(Qt::darkGray));
+    } catch (const std::exception& error) {
+        reason = QString::fromLocal8Bit(error.what());
+    }
+    if (!sub) {
+        log(LogTableModel::Warning, tr("The points of scan %1 cannot be read: %2").arg(p.scanName(scanId), reason));
+        warn(tr("Open a new View Failed"),
+             tr("Tarvenix was unable to open a new scan view. Please close some other views and try again."));
+        return;
+    }
+    sub->setWindowTitle(tr("Pointcloud View: ") + QFileInfo(file->path()).fileName());
+    sub->setContextMenu(buildContextMenu(MdiSubWindow::PointcloudView, scanId));
+    connect(sub, &MdiSubWindow::signalAboutToClose, this, &BasicMainWindow::closePointcloudView);
+    p.setViewOpen(scanId, BasicProject::PointCloudView, true);
+    addScanSubWindow(sub);
+    sub->resize(d->mdiArea->size() * 0.8);
+    sub->show();
 }
 
 void BasicMainWindow::closePlanarView(quint32 scanId)
@@ -929,16 +1069,26 @@ void BasicMainWindow::placeStationMarks(GraphicsView* view)
         PlanarViewContent::addStationMarks(project(), *view);
 }
 
+void BasicMainWindow::placeStationMarks(SphericalViewGLWidget* view)
+{
+    if (QSettings().value(QStringLiteral("global/showStationMarks"), true).toBool())
+        SphericalViewContent::setStationMarks(project(), *view);
+    else
+        view->setStationMarks({});
+}
+
 void BasicMainWindow::projectTreeScanCheckBoxChanged()
 {
     for (QMdiSubWindow* window : d->mdiArea->subWindowList()) {
-        auto* planar = qobject_cast<MDIPlanarViewSubWindow*>(window);
-        if (!planar)
-            continue;
-        GraphicsView* view = planar->graphicsView();
-        view->removeAndDeleteAllInteractiveStationMarks();
-        placeStationMarks(view);
-        view->viewport()->update();
+        if (auto* planar = qobject_cast<MDIPlanarViewSubWindow*>(window)) {
+            GraphicsView* view = planar->graphicsView();
+            view->removeAndDeleteAllInteractiveStationMarks();
+            placeStationMarks(view);
+            view->viewport()->update();
+        } else if (auto* spherical = qobject_cast<MDISphericalViewSubWindow*>(window)) {
+            placeStationMarks(spherical->glWidget());
+            spherical->glWidget()->update();
+        }
     }
 }
 

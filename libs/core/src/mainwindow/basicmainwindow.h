@@ -18,6 +18,7 @@ class InteractiveGraphicsItem;
 class LogTableModel;
 class MDIContextMenu;
 class PointInfoTableViewWidget;
+class SphericalViewGLWidget;
 class UserDialogs;
 
 // The frame of the viewer: the multiple-document area with one sub window per open scan view,
@@ -138,6 +139,10 @@ private:
     void forwardKey(QKeyEvent* event, bool press);
     void closeViews(quint32 scanId, bool ofThisScan);
     void placeStationMarks(GraphicsView* view);
+    void placeStationMarks(SphericalViewGLWidget* view);
+    void connectOperators();
+
+    class OperatorHost;
 
     struct Private;
     std::unique_ptr<Private> d;

@@ -3,6 +3,8 @@
 #include "mainwindow/deletelockfiledialog.h"
 
 #include <QFileDialog>
+#include <QInputDialog>
+#include <QLineEdit>
 
 namespace TVX::CORE {
 
@@ -33,6 +35,13 @@ QString UserDialogs::openFileName(const QString& caption, const QString& directo
 QStringList UserDialogs::openFileNames(const QString& caption, const QString& directory, const QString& filter)
 {
     return QFileDialog::getOpenFileNames(m_parent, caption, directory, filter);
+}
+
+bool UserDialogs::textLine(const QString& title, const QString& label, QString& text)
+{
+    bool ok = false;
+    text = QInputDialog::getText(m_parent, title, label, QLineEdit::Normal, text, &ok);
+    return ok;
 }
 
 bool UserDialogs::confirmLockDeletion(const QString& lockMessage)

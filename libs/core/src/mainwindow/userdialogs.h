@@ -26,6 +26,8 @@ public:
     virtual QString openFileName(const QString& caption, const QString& directory, const QString& filter);
     // Files to open; empty when the user cancelled.
     virtual QStringList openFileNames(const QString& caption, const QString& directory, const QString& filter);
+    // A line of text; false when the user cancelled.
+    virtual bool textLine(const QString& title, const QString& label, QString& text);
     // The lock dialog of a project in use: true when the user confirmed deleting the lock file.
     virtual bool confirmLockDeletion(const QString& lockMessage);
 

@@ -2,6 +2,7 @@
 
 #include "planarview/handlegeometry.h"
 #include "planarview/interactivegraphicsitemevent.h"
+#include "scene/pointdistance.h"
 
 #include <QApplication>
 #include <QGraphicsSimpleTextItem>
@@ -106,10 +107,7 @@ bool InteractiveDimensioning::isValueValid() const
 
 QString InteractiveDimensioning::labelText() const
 {
-    static const char* const suffixes[] = {" (3D)", " (DZ)", " (XY)"};
-    const QString number = d->valid ? QStringLiteral("%1 m").arg(d->value, 0, 'f', 3, QLatin1Char(' '))
-                                    : QStringLiteral("-.-- m");
-    return number + (d->type < 3 ? QLatin1String(suffixes[d->type]) : QLatin1String(""));
+    return dimensioningLabel(quint32(d->type), d->value, d->valid);
 }
 
 void InteractiveDimensioning::setValue(double value, bool valid)

@@ -109,8 +109,9 @@ struct BasicProject::Private {
     std::vector<ScanEntry> scans;
     // Scans of the tree whose header could not be read, by identifier: kept for the next save.
     std::map<quint32, QString> unreadable;
-    // Why each of them could not be read, for the user: "<path>: <reason>".
+    // Why each of them could not be read, for the user: "<path>: <reason>", and by identifier.
     QStringList unreadableReasons;
+    std::map<quint32, QString> readErrors;
     TVXFileTileCache tileCache;
     QSharedPointer<FileTreeModel> model;
 
@@ -157,6 +158,17 @@ BasicProject::~BasicProject()
 
 bool BasicProject::openProject(const QString& path, const QString& userName, int& code, QString& message)
 {
+    return openProjectFile(path, &userName, code, message);
+}
+
+bool BasicProject::openProjectForReading(const QString& path, int& code, QString& message)
+{
+    return openProjectFile(path, nullptr, code, message);
+}
+
+// Without a user name the lock is left alone and the project opens read-only.
+bool BasicProject::openProjectFile(const QString& path, const QString* userName, int& code, QString& message)
+{
     message.clear();
     if (d->open) {
         code = AlreadyOpen;
@@ -169,7 +181,8 @@ bool BasicProject::openProject(const QString& path, const QString& userName, int
 
     auto lock = std::make_unique<ProjectLock>(directory);
     bool readOnly = false;
-    switch (lock->acquire(userName)) {
+    const ProjectLock::Outcome locked = userName ? lock->acquire(*userName) : ProjectLock::Outcome::NotCreated;
+    switch (locked) {
     case ProjectLock::Outcome::HeldByOthers: {
         QStringList users;
         lock->readHolders(users);
@@ -178,7 +191,8 @@ bool BasicProject::openProject(const QString& path, const QString& userName, int
         return false;
     }
     case ProjectLock::Outcome::NotCreated:
-        qCInfo(lcProject) << "no lock file could be made in" << directory << "- opening read-only";
+        if (userName)
+            qCInfo(lcProject) << "no lock file could be made in" << directory << "- opening read-only";
         readOnly = true;
         break;
     case ProjectLock::Outcome::Created:
@@ -248,6 +262,7 @@ void BasicProject::installContent(TVXProjectContent& content)
         if (!listed[i].isEmpty() && !attachScan(quint32(i), listed[i], reason)) {
             d->unreadable[quint32(i)] = listed[i];
             d->unreadableReasons << QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(listed[i]), reason);
+            d->readErrors[quint32(i)] = reason;
         }
     }
     // Every scan node must name a listed scan of its own: nodes of unlisted or already named
@@ -335,6 +350,7 @@ void BasicProject::clear()
     d->scans.clear();
     d->unreadable.clear();
     d->unreadableReasons.clear();
+    d->readErrors.clear();
     d->tileCache.clear();
     d->lock.reset();
     d->open = d->readOnly = d->lockOwned = false;
@@ -394,6 +410,12 @@ bool BasicProject::saveProject(QString& message)
 QStringList BasicProject::unreadableScans() const
 {
     return d->unreadableReasons;
+}
+
+QString BasicProject::scanReadError(quint32 scanId) const
+{
+    const auto it = d->readErrors.find(scanId);
+    return it == d->readErrors.end() ? QString() : it->second;
 }
 
 bool BasicProject::isOpen() const
@@ -760,6 +782,7 @@ void BasicProject::forgetScans(const QList<quint32>& scanIds)
 {
     for (const quint32 id : scanIds) {
         d->unreadable.erase(id);
+        d->readErrors.erase(id);
         d->scans.erase(std::remove_if(d->scans.begin(), d->scans.end(), [id](const ScanEntry& e) { return e.id == id; }),
                        d->scans.end());
     }

@@ -72,6 +72,9 @@ public:
     // message names them), 7 (the project file cannot be read; the lock taken is removed again)
     // and 9 (opened, written in an older format).
     bool openProject(const QString& path, const QString& userName, int& code, QString& message);
+    // Opens the project read-only without looking at or taking the lock, for tools that only
+    // look at it; codes as openProject, apart from 3.
+    bool openProjectForReading(const QString& path, int& code, QString& message);
     // Closes the project and removes its lock file: true when none is open. Codes: 8 (the lock
     // file holds somebody else's line now) and 5 (the lock file cannot be removed); the project
     // then stays open. A lock file that is gone is no obstacle.
@@ -83,6 +86,9 @@ public:
     // The scans of the project file whose headers could not be read at opening, each as
     // "<relative path>: <reason>"; they stay in the project file but are not shown.
     QStringList unreadableScans() const;
+    // Why the header of the listed scan `scanId` could not be read at opening; empty for a scan
+    // that was read or is not listed.
+    QString scanReadError(quint32 scanId) const;
 
     bool isOpen() const;
     bool isReadOnly() const;
@@ -182,6 +188,7 @@ private:
     ~BasicProject() override;
 
     void clear();
+    bool openProjectFile(const QString& path, const QString* userName, int& code, QString& message);
     void installContent(TVXProjectContent& content);
     // Reads a scan file's header and adds its scan list entry; false when it cannot be read.
     bool attachScan(quint32 scanId, const QString& relativePath, QString& reason);

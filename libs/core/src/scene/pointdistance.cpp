@@ -34,4 +34,12 @@ double dimensioningDistance(quint32 type, const Vector3d& first, const Vector3d&
     }
 }
 
+QString dimensioningLabel(quint32 type, double value, bool valid)
+{
+    static const char* const suffixes[] = {" (3D)", " (DZ)", " (XY)"};
+    const QString number =
+        valid ? QStringLiteral("%1 m").arg(value, 0, 'f', 3, QLatin1Char(' ')) : QStringLiteral("-.-- m");
+    return number + (type < 3 ? QLatin1String(suffixes[type]) : QLatin1String(""));
+}
+
 } // namespace TVX::CORE

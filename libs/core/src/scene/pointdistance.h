@@ -3,6 +3,7 @@
 #include "scene/scanpose.h"
 #include "scene/vector3d.h"
 
+#include <QString>
 #include <QtGlobal>
 
 namespace TVX::CORE {
@@ -27,5 +28,9 @@ PointDistance pointDistance(const Vector3d& first, const ScanPose& firstPose, co
 // points are first turned into the project frame with the scan's rotation, so that a tilted scan
 // measures height and horizontal distance levelled; the translation cancels. -1 for another type.
 double dimensioningDistance(quint32 type, const Vector3d& first, const Vector3d& second, const Matrix3d& rotation);
+
+// The label of a dimensioning: "12.345 m (3D)", "-.-- m (DZ)" when no value could be measured;
+// no suffix for an unknown type.
+QString dimensioningLabel(quint32 type, double value, bool valid);
 
 } // namespace TVX::CORE
