@@ -4,7 +4,7 @@
 <context>
     <name>TVX::CORE::BasicMainWindow</name>
     <message>
-        <location filename="../libs/core/src/mainwindow/basicmainwindow.cpp" line="+214"/>
+        <location filename="../libs/core/src/mainwindow/basicmainwindow.cpp" line="+285"/>
         <source>Project</source>
         <translation>Projekt</translation>
     </message>
@@ -119,12 +119,18 @@
         <translation>Ellipse hinzufügen</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-232"/>
+        <location line="+233"/>
         <source>Add Text</source>
         <translation>Text hinzufügen</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="-233"/>
+        <source>Text:</source>
+        <translation>Text:</translation>
+    </message>
+    <message>
+        <location line="+244"/>
         <source>3D Distance</source>
         <translation>3D-Abstand</translation>
     </message>
@@ -216,19 +222,19 @@
     <message>
         <location line="+71"/>
         <location line="+125"/>
-        <location line="+325"/>
+        <location line="+432"/>
         <source>Read-only project</source>
         <translation>Schreibgeschütztes Projekt</translation>
     </message>
     <message>
-        <location line="-449"/>
+        <location line="-556"/>
         <location line="+125"/>
-        <location line="+325"/>
+        <location line="+432"/>
         <source>Changes could not be saved, because the project was opened in read-only mode.</source>
         <translation>Die Änderungen konnten nicht gespeichert werden, da das Projekt schreibgeschützt geöffnet wurde.</translation>
     </message>
     <message>
-        <location line="-446"/>
+        <location line="-553"/>
         <source>Save Changes?</source>
         <translation>Änderungen speichern?</translation>
     </message>
@@ -335,23 +341,44 @@
         <translation>Tarvenix Viewer: %1[*]</translation>
     </message>
     <message>
-        <location line="+9"/>
-        <location line="+16"/>
+        <location line="+11"/>
+        <location line="+21"/>
+        <location line="+8"/>
         <source>Add Scans</source>
         <translation>Scans hinzufügen</translation>
     </message>
     <message>
-        <location line="-16"/>
-        <source>Scan Files (*.tvx)</source>
-        <translation>Scandateien (*.tvx)</translation>
+        <location line="-28"/>
+        <source>Scans (*.tvx %1);;Scan Files (*.tvx);;Scans of Other Scanners (%1)</source>
+        <translation>Scans (*.tvx %1);;Scandateien (*.tvx);;Scans anderer Scanner (%1)</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+231"/>
+        <source>The scan %1 cannot be read.</source>
+        <translation>Der Scan %1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Spherical View: </source>
+        <translation>Sphärische Ansicht: </translation>
+    </message>
+    <message>
+        <location line="+43"/>
+        <source>The points of scan %1 cannot be read: %2</source>
+        <translation>Die Punkte des Scans %1 können nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Pointcloud View: </source>
+        <translation>Punktwolkenansicht: </translation>
+    </message>
+    <message>
+        <location line="-271"/>
         <source>Scan %1 added.</source>
         <translation>Scan %1 hinzugefügt.</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+4"/>
         <source>These scans could not be added:
 
 %1</source>
@@ -360,7 +387,27 @@
 %1</translation>
     </message>
     <message>
-        <location line="+75"/>
+        <location line="+7"/>
+        <source>Importing %1 ...</source>
+        <translation>%1 wird importiert ...</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Import of %1 cancelled; nothing was added.</source>
+        <translation>Import von %1 abgebrochen; nichts wurde hinzugefügt.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Scans imported from %1 into the folder %2: %3.</source>
+        <translation>Aus %1 in den Ordner %2 importierte Scans: %3.</translation>
+    </message>
+    <message>
+        <location line="+78"/>
         <source>Open Planar View</source>
         <translation>Planare Ansicht öffnen</translation>
     </message>
@@ -386,36 +433,31 @@
     </message>
     <message>
         <location line="+39"/>
+        <location line="+58"/>
         <source>The panorama %1 cannot be read.</source>
         <translation>Das Panorama %1 kann nicht gelesen werden.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-57"/>
+        <location line="+59"/>
+        <location line="+51"/>
         <source>Open a new View Failed</source>
         <translation>Öffnen einer neuen Ansicht fehlgeschlagen</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-109"/>
+        <location line="+59"/>
+        <location line="+51"/>
         <source>Tarvenix was unable to open a new scan view. Please close some other views and try again.</source>
         <translation>Tarvenix konnte keine neue Scanansicht öffnen. Bitte schließen Sie einige andere Ansichten und versuchen Sie es erneut.</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="-105"/>
         <source>Planar View: </source>
         <translation>Planare Ansicht: </translation>
     </message>
     <message>
-        <location line="+38"/>
-        <source>Spherical views are not available in this version (scan %1).</source>
-        <translation>Sphärische Ansichten sind in dieser Version nicht verfügbar (Scan %1).</translation>
-    </message>
-    <message>
-        <location line="+5"/>
-        <source>Point cloud views are not available in this version (scan %1).</source>
-        <translation>Punktwolkenansichten sind in dieser Version nicht verfügbar (Scan %1).</translation>
-    </message>
-    <message>
-        <location line="+68"/>
+        <location line="+182"/>
         <source>Error reading file</source>
         <translation>Fehler beim Lesen der Datei</translation>
     </message>
@@ -468,7 +510,7 @@
 </translation>
     </message>
     <message>
-        <location line="+63"/>
+        <location line="+73"/>
         <source>Area selected in %1: columns %2 to %3, rows %4 to %5.</source>
         <translation>Bereich in %1 ausgewählt: Spalten %2 bis %3, Zeilen %4 bis %5.</translation>
     </message>
@@ -586,6 +628,235 @@ Sperrdatei löschen?</translation>
     </message>
 </context>
 <context>
+    <name>TVX::CORE::E57PagedFile</name>
+    <message>
+        <location filename="../libs/core/src/fileio/e57pagedfile.cpp" line="+24"/>
+        <source>page size %1 is not between %2 and %3</source>
+        <translation>Seitengröße %1 liegt nicht zwischen %2 und %3</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>page %1 lies past the end of the file (%2 pages)</source>
+        <translation>Seite %1 liegt hinter dem Dateiende (%2 Seiten)</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>cannot read page %1: %2</source>
+        <translation>Seite %1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>page %1: the checksum does not match</source>
+        <translation>Seite %1: die Prüfsumme stimmt nicht</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::E57Reader</name>
+    <message>
+        <location filename="../libs/core/src/fileio/e57reader.cpp" line="+111"/>
+        <source>the image blob at byte %1 is not one</source>
+        <translation>der Bildblock bei Byte %1 ist keiner</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>the compressed vector at byte %1 lies past the end of the file</source>
+        <translation>der komprimierte Vektor bei Byte %1 liegt hinter dem Dateiende</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>byte %1 holds no compressed vector section</source>
+        <translation>Byte %1 enthält keinen Abschnitt eines komprimierten Vektors</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>the compressed vector at byte %1 claims %2 bytes, more than the file holds</source>
+        <translation>der komprimierte Vektor bei Byte %1 gibt %2 Bytes an, mehr als die Datei enthält</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>the data of the compressed vector at byte %1 lie outside its section</source>
+        <translation>die Daten des komprimierten Vektors bei Byte %1 liegen außerhalb seines Abschnitts</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>the packet at byte %1 runs past the end of its section</source>
+        <translation>das Paket bei Byte %1 reicht über das Ende seines Abschnitts hinaus</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>byte %1 holds no packet</source>
+        <translation>Byte %1 enthält kein Paket</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>the packet at byte %1 holds %2 bytestreams for %3 fields</source>
+        <translation>das Paket bei Byte %1 enthält %2 Byteströme für %3 Felder</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the packet at byte %1 is shorter than its header</source>
+        <translation>das Paket bei Byte %1 ist kürzer als sein Kopf</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>the bytestreams of the packet at byte %1 run past its end</source>
+        <translation>die Byteströme des Pakets bei Byte %1 reichen über sein Ende hinaus</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>the field %1 runs ahead of the others by more than %2 bytes</source>
+        <translation>das Feld %1 läuft den anderen um mehr als %2 Bytes voraus</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>the compressed vector ends after %1 of %2 records</source>
+        <translation>der komprimierte Vektor endet nach %1 von %2 Datensätzen</translation>
+    </message>
+    <message>
+        <location line="+71"/>
+        <source>record %1: the coordinates are not finite</source>
+        <translation>Datensatz %1: die Koordinaten sind nicht endlich</translation>
+    </message>
+    <message>
+        <location line="+61"/>
+        <source>&quot;%1&quot; is no number</source>
+        <translation>&quot;%1&quot; ist keine Zahl</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>&quot;%1&quot; is no integer</source>
+        <translation>&quot;%1&quot; ist keine ganze Zahl</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>%1 &quot;%2&quot; lies outside the file&apos;s data</source>
+        <translation>%1 &quot;%2&quot; liegt außerhalb der Daten der Datei</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>the quaternion has no length</source>
+        <translation>das Quaternion hat keine Länge</translation>
+    </message>
+    <message>
+        <location line="+34"/>
+        <source>%1 &quot;%2&quot; is no number</source>
+        <translation>%1 &quot;%2&quot; ist keine Zahl</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>minimum %1 lies above maximum %2</source>
+        <translation>Minimum %1 liegt über dem Maximum %2</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>a point field of type &quot;%1&quot;</source>
+        <translation>ein Punktfeld vom Typ &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <location line="+31"/>
+        <source>Scan %1</source>
+        <translation>Scan %1</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>no compressed vector of points</source>
+        <translation>kein komprimierter Vektor von Punkten</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>no record count</source>
+        <translation>keine Anzahl der Datensätze</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>only the bit-pack codec is supported</source>
+        <translation>nur der Bit-Pack-Codec wird unterstützt</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>no prototype</source>
+        <translation>kein Prototyp</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the field %1 comes twice</source>
+        <translation>das Feld %1 kommt zweimal vor</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>the points have neither cartesian nor spherical coordinates</source>
+        <translation>die Punkte haben weder kartesische noch sphärische Koordinaten</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>a row index without a column index, or the other way round</source>
+        <translation>ein Zeilenindex ohne Spaltenindex oder umgekehrt</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>%1 %2 makes no grid</source>
+        <translation>%1 %2 ergibt kein Raster</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>a grid of %1 × %2 is too large</source>
+        <translation>ein Raster von %1 × %2 ist zu groß</translation>
+    </message>
+    <message>
+        <location line="+43"/>
+        <source>an image of %1 bytes</source>
+        <translation>ein Bild von %1 Bytes</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>too short for an E57 file</source>
+        <translation>zu kurz für eine E57-Datei</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>not an E57 file</source>
+        <translation>keine E57-Datei</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>E57 version %1 is not supported</source>
+        <translation>E57-Version %1 wird nicht unterstützt</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the file is %1 bytes long, its header says %2</source>
+        <translation>die Datei ist %1 Bytes lang, ihr Kopf sagt %2</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the XML section (%1 bytes at byte %2) does not fit the file</source>
+        <translation>der XML-Abschnitt (%1 Bytes ab Byte %2) passt nicht in die Datei</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>XML section, %1</source>
+        <translation>XML-Abschnitt, %1</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>no scan in the file</source>
+        <translation>kein Scan in der Datei</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::E57XmlNode</name>
+    <message>
+        <location filename="../libs/core/src/fileio/e57xmlnode.cpp" line="+19"/>
+        <source>line %1: the XML is too large or too deep</source>
+        <translation>Zeile %1: das XML ist zu groß oder zu tief verschachtelt</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>TVX::CORE::FileTreeModel</name>
     <message>
         <location filename="../libs/core/src/project/filetreemodel.cpp" line="+246"/>
@@ -692,6 +963,24 @@ Sperrdatei löschen?</translation>
     </message>
 </context>
 <context>
+    <name>TVX::CORE::MDIPointcloudViewSubWindow</name>
+    <message>
+        <location filename="../libs/core/src/mainwindow/mdipointcloudviewsubwindow.cpp" line="+27"/>
+        <source>Reset up-vector</source>
+        <translation>Aufwärtsvektor zurücksetzen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Background Color</source>
+        <translation>Hintergrundfarbe</translation>
+    </message>
+</context>
+<context>
     <name>TVX::CORE::PointInfoTableModel</name>
     <message>
         <location filename="../libs/core/src/mainwindow/pointinfotablemodel.cpp" line="+118"/>
@@ -740,6 +1029,108 @@ Sperrdatei löschen?</translation>
         <location line="+1"/>
         <source>Set Value of z-Coordinate</source>
         <translation>Wert der z-Koordinate festlegen</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::PointcloudViewGLWidget</name>
+    <message>
+        <location filename="../libs/core/src/glviews/pointcloudviewglwidget.cpp" line="+303"/>
+        <source>Background Color</source>
+        <translation>Hintergrundfarbe</translation>
+    </message>
+    <message>
+        <location line="+38"/>
+        <source>Scan Colours</source>
+        <translation>Scanfarben</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Intensity</source>
+        <translation>Intensität</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Black</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Dark Grey</source>
+        <translation>Dunkelgrau</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>White</source>
+        <translation>Weiß</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::ProjectImport</name>
+    <message>
+        <location filename="../libs/core/src/project/projectimport.cpp" line="+70"/>
+        <source>%1: only PTX and E57 files can be imported</source>
+        <translation>%1: nur PTX- und E57-Dateien können importiert werden</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>no project is open for writing</source>
+        <translation>kein Projekt ist zum Schreiben geöffnet</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+89"/>
+        <source>cannot create %1</source>
+        <translation>%1 kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <location line="-56"/>
+        <source>%1: not enough memory</source>
+        <translation>%1: nicht genug Speicher</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>%1: the written scan cannot be read back: %2</source>
+        <translation>%1: der geschriebene Scan kann nicht zurückgelesen werden: %2</translation>
+    </message>
+    <message>
+        <location line="+59"/>
+        <source>%1 cannot be written</source>
+        <translation>%1 kann nicht geschrieben werden</translation>
     </message>
 </context>
 <context>
@@ -858,6 +1249,90 @@ Ursache: %1
     </message>
 </context>
 <context>
+    <name>TVX::CORE::PtxReader</name>
+    <message>
+        <location filename="../libs/core/src/fileio/ptxreader.cpp" line="+37"/>
+        <source>cannot seek to byte %1</source>
+        <translation>Byte %1 kann nicht angesteuert werden</translation>
+    </message>
+    <message>
+        <location line="+46"/>
+        <source>line longer than %1 bytes</source>
+        <translation>Zeile länger als %1 Bytes</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>cannot read: %1</source>
+        <translation>kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <location line="+106"/>
+        <source>the file ends inside a scan</source>
+        <translation>die Datei endet mitten in einem Scan</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>expected %1 numbers</source>
+        <translation>%1 Zahlen erwartet</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <location line="+32"/>
+        <source>a number that is not finite</source>
+        <translation>eine Zahl, die nicht endlich ist</translation>
+    </message>
+    <message>
+        <location line="-7"/>
+        <source>the file ends inside a scan header</source>
+        <translation>die Datei endet mitten im Kopf eines Scans</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>a header line of %1 numbers expected</source>
+        <translation>eine Kopfzeile mit %1 Zahlen erwartet</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>%1 %2 is not between 1 and %3</source>
+        <translation>%1 %2 liegt nicht zwischen 1 und %3</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>Scan %1</source>
+        <translation>Scan %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>column count</source>
+        <translation>Spaltenzahl</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>row count</source>
+        <translation>Zeilenzahl</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 × %2 points are more than %3</source>
+        <translation>%1 × %2 Punkte sind mehr als %3</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>the file ends at line %1, inside scan %2 of %3 × %4 points</source>
+        <translation>die Datei endet in Zeile %1, mitten in Scan %2 mit %3 × %4 Punkten</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>expected 4 or 7 numbers</source>
+        <translation>4 oder 7 Zahlen erwartet</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>no scan in the file</source>
+        <translation>kein Scan in der Datei</translation>
+    </message>
+</context>
+<context>
     <name>TVX::CORE::ReferencePointsTableModel</name>
     <message>
         <location filename="../libs/core/src/project/referencepointstablemodel.cpp" line="+42"/>
@@ -898,6 +1373,79 @@ Ursache: %1
         <location line="+2"/>
         <source>Radius [m]</source>
         <translation>Radius [m]</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::ScanImporter</name>
+    <message>
+        <location filename="../libs/core/src/fileio/scanimporter.cpp" line="+117"/>
+        <source>a point at column %1, row %2 lies outside the grid of %3 × %4</source>
+        <translation>ein Punkt in Spalte %1, Zeile %2 liegt außerhalb des Rasters von %3 × %4</translation>
+    </message>
+    <message>
+        <location line="+94"/>
+        <source>a grid of %1 × %2 for only %3 points</source>
+        <translation>ein Raster von %1 × %2 für nur %3 Punkte</translation>
+    </message>
+    <message>
+        <location line="+111"/>
+        <source>no point with a return to grid</source>
+        <translation>kein Punkt mit Rückkehr zum Rastern</translation>
+    </message>
+    <message>
+        <location line="+79"/>
+        <source>a step of %1° makes more than %2 cells; choose a larger step</source>
+        <translation>eine Schrittweite von %1° ergibt mehr als %2 Zellen; wählen Sie eine größere</translation>
+    </message>
+    <message>
+        <location line="+73"/>
+        <source>the point of cell (%1, %2) is not finite</source>
+        <translation>der Punkt der Zelle (%1, %2) ist nicht endlich</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the point of cell (%1, %2) lies %3 m away, beyond the %4 m that scan files store</source>
+        <translation>der Punkt der Zelle (%1, %2) liegt %3 m entfernt, jenseits der %4 m, die Scandateien speichern</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>the grid of %1 × %2 is too large to be held whole; at most %3 cells</source>
+        <translation>das Raster von %1 × %2 ist zu groß, um es ganz zu halten; höchstens %3 Zellen</translation>
+    </message>
+    <message>
+        <location line="+35"/>
+        <source>the points of column %1 are not stored together</source>
+        <translation>die Punkte der Spalte %1 sind nicht zusammen gespeichert</translation>
+    </message>
+    <message>
+        <location line="+68"/>
+        <source>its panorama image cannot be decoded</source>
+        <translation>sein Panoramabild kann nicht dekodiert werden</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <source>no memory for a panorama of %1 × %2 pixels</source>
+        <translation>kein Speicher für ein Panorama von %1 × %2 Pixeln</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::SphericalViewGLWidget</name>
+    <message>
+        <location filename="../libs/core/src/glviews/sphericalviewglwidget.cpp" line="+220"/>
+        <source>Error Initializing Display Driver</source>
+        <translation>Fehler beim Initialisieren des Grafiktreibers</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>OpenGL driver could not be initialized without errors.</source>
+        <translation>Der OpenGL-Treiber konnte nicht fehlerfrei initialisiert werden.</translation>
+    </message>
+    <message>
+        <location line="+232"/>
+        <source>%1
+distance: %2 m</source>
+        <translation>%1
+Abstand: %2 m</translation>
     </message>
 </context>
 <context>

@@ -4,7 +4,7 @@
 <context>
     <name>TVX::CORE::BasicMainWindow</name>
     <message>
-        <location filename="../libs/core/src/mainwindow/basicmainwindow.cpp" line="+214"/>
+        <location filename="../libs/core/src/mainwindow/basicmainwindow.cpp" line="+285"/>
         <source>Project</source>
         <translation>Proyecto</translation>
     </message>
@@ -119,12 +119,18 @@
         <translation>Añadir elipse</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-232"/>
+        <location line="+233"/>
         <source>Add Text</source>
         <translation>Añadir texto</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="-233"/>
+        <source>Text:</source>
+        <translation>Texto:</translation>
+    </message>
+    <message>
+        <location line="+244"/>
         <source>3D Distance</source>
         <translation>Distancia 3D</translation>
     </message>
@@ -216,19 +222,19 @@
     <message>
         <location line="+71"/>
         <location line="+125"/>
-        <location line="+325"/>
+        <location line="+432"/>
         <source>Read-only project</source>
         <translation>Proyecto de solo lectura</translation>
     </message>
     <message>
-        <location line="-449"/>
+        <location line="-556"/>
         <location line="+125"/>
-        <location line="+325"/>
+        <location line="+432"/>
         <source>Changes could not be saved, because the project was opened in read-only mode.</source>
         <translation>No se pudieron guardar los cambios porque el proyecto se abrió en modo de solo lectura.</translation>
     </message>
     <message>
-        <location line="-446"/>
+        <location line="-553"/>
         <source>Save Changes?</source>
         <translation>¿Guardar los cambios?</translation>
     </message>
@@ -335,23 +341,44 @@
         <translation>Tarvenix Viewer: %1[*]</translation>
     </message>
     <message>
-        <location line="+9"/>
-        <location line="+16"/>
+        <location line="+11"/>
+        <location line="+21"/>
+        <location line="+8"/>
         <source>Add Scans</source>
         <translation>Añadir escaneos</translation>
     </message>
     <message>
-        <location line="-16"/>
-        <source>Scan Files (*.tvx)</source>
-        <translation>Archivos de escaneo (*.tvx)</translation>
+        <location line="-28"/>
+        <source>Scans (*.tvx %1);;Scan Files (*.tvx);;Scans of Other Scanners (%1)</source>
+        <translation>Escaneos (*.tvx %1);;Archivos de escaneo (*.tvx);;Escaneos de otros escáneres (%1)</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+231"/>
+        <source>The scan %1 cannot be read.</source>
+        <translation>No se puede leer el escaneo %1.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Spherical View: </source>
+        <translation>Vista esférica: </translation>
+    </message>
+    <message>
+        <location line="+43"/>
+        <source>The points of scan %1 cannot be read: %2</source>
+        <translation>No se pueden leer los puntos del escaneo %1: %2</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Pointcloud View: </source>
+        <translation>Vista de nube de puntos: </translation>
+    </message>
+    <message>
+        <location line="-271"/>
         <source>Scan %1 added.</source>
         <translation>Escaneo %1 añadido.</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+4"/>
         <source>These scans could not be added:
 
 %1</source>
@@ -360,7 +387,27 @@
 %1</translation>
     </message>
     <message>
-        <location line="+75"/>
+        <location line="+7"/>
+        <source>Importing %1 ...</source>
+        <translation>Importando %1 ...</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Import of %1 cancelled; nothing was added.</source>
+        <translation>Importación de %1 cancelada; no se ha añadido nada.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Scans imported from %1 into the folder %2: %3.</source>
+        <translation>Escaneos importados de %1 en la carpeta %2: %3.</translation>
+    </message>
+    <message>
+        <location line="+78"/>
         <source>Open Planar View</source>
         <translation>Abrir vista plana</translation>
     </message>
@@ -386,36 +433,31 @@
     </message>
     <message>
         <location line="+39"/>
+        <location line="+58"/>
         <source>The panorama %1 cannot be read.</source>
         <translation>No se puede leer el panorama %1.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-57"/>
+        <location line="+59"/>
+        <location line="+51"/>
         <source>Open a new View Failed</source>
         <translation>No se pudo abrir una nueva vista</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-109"/>
+        <location line="+59"/>
+        <location line="+51"/>
         <source>Tarvenix was unable to open a new scan view. Please close some other views and try again.</source>
         <translation>Tarvenix no pudo abrir una nueva vista del escaneo. Cierre algunas otras vistas e inténtelo de nuevo.</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="-105"/>
         <source>Planar View: </source>
         <translation>Vista plana: </translation>
     </message>
     <message>
-        <location line="+38"/>
-        <source>Spherical views are not available in this version (scan %1).</source>
-        <translation>Las vistas esféricas no están disponibles en esta versión (escaneo %1).</translation>
-    </message>
-    <message>
-        <location line="+5"/>
-        <source>Point cloud views are not available in this version (scan %1).</source>
-        <translation>Las vistas de nube de puntos no están disponibles en esta versión (escaneo %1).</translation>
-    </message>
-    <message>
-        <location line="+68"/>
+        <location line="+182"/>
         <source>Error reading file</source>
         <translation>Error al leer el archivo</translation>
     </message>
@@ -468,7 +510,7 @@
 </translation>
     </message>
     <message>
-        <location line="+63"/>
+        <location line="+73"/>
         <source>Area selected in %1: columns %2 to %3, rows %4 to %5.</source>
         <translation>Área seleccionada en %1: columnas %2 a %3, filas %4 a %5.</translation>
     </message>
@@ -586,6 +628,235 @@ Delete the lock file?</source>
     </message>
 </context>
 <context>
+    <name>TVX::CORE::E57PagedFile</name>
+    <message>
+        <location filename="../libs/core/src/fileio/e57pagedfile.cpp" line="+24"/>
+        <source>page size %1 is not between %2 and %3</source>
+        <translation>el tamaño de página %1 no está entre %2 y %3</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>page %1 lies past the end of the file (%2 pages)</source>
+        <translation>la página %1 está más allá del final del archivo (%2 páginas)</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>cannot read page %1: %2</source>
+        <translation>no se puede leer la página %1: %2</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>page %1: the checksum does not match</source>
+        <translation>página %1: la suma de comprobación no coincide</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::E57Reader</name>
+    <message>
+        <location filename="../libs/core/src/fileio/e57reader.cpp" line="+111"/>
+        <source>the image blob at byte %1 is not one</source>
+        <translation>el bloque de imagen en el byte %1 no es válido</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>the compressed vector at byte %1 lies past the end of the file</source>
+        <translation>el vector comprimido en el byte %1 está más allá del final del archivo</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>byte %1 holds no compressed vector section</source>
+        <translation>el byte %1 no contiene una sección de vector comprimido</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>the compressed vector at byte %1 claims %2 bytes, more than the file holds</source>
+        <translation>el vector comprimido en el byte %1 declara %2 bytes, más de los que contiene el archivo</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>the data of the compressed vector at byte %1 lie outside its section</source>
+        <translation>los datos del vector comprimido en el byte %1 están fuera de su sección</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>the packet at byte %1 runs past the end of its section</source>
+        <translation>el paquete en el byte %1 sobrepasa el final de su sección</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>byte %1 holds no packet</source>
+        <translation>el byte %1 no contiene ningún paquete</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>the packet at byte %1 holds %2 bytestreams for %3 fields</source>
+        <translation>el paquete en el byte %1 contiene %2 flujos de bytes para %3 campos</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the packet at byte %1 is shorter than its header</source>
+        <translation>el paquete en el byte %1 es más corto que su cabecera</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>the bytestreams of the packet at byte %1 run past its end</source>
+        <translation>los flujos de bytes del paquete en el byte %1 sobrepasan su final</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>the field %1 runs ahead of the others by more than %2 bytes</source>
+        <translation>el campo %1 se adelanta a los demás en más de %2 bytes</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>the compressed vector ends after %1 of %2 records</source>
+        <translation>el vector comprimido termina tras %1 de %2 registros</translation>
+    </message>
+    <message>
+        <location line="+71"/>
+        <source>record %1: the coordinates are not finite</source>
+        <translation>registro %1: las coordenadas no son finitas</translation>
+    </message>
+    <message>
+        <location line="+61"/>
+        <source>&quot;%1&quot; is no number</source>
+        <translation>&quot;%1&quot; no es un número</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>&quot;%1&quot; is no integer</source>
+        <translation>&quot;%1&quot; no es un número entero</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>%1 &quot;%2&quot; lies outside the file&apos;s data</source>
+        <translation>%1 &quot;%2&quot; está fuera de los datos del archivo</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>the quaternion has no length</source>
+        <translation>el cuaternión no tiene longitud</translation>
+    </message>
+    <message>
+        <location line="+34"/>
+        <source>%1 &quot;%2&quot; is no number</source>
+        <translation>%1 &quot;%2&quot; no es un número</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>minimum %1 lies above maximum %2</source>
+        <translation>el mínimo %1 está por encima del máximo %2</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>a point field of type &quot;%1&quot;</source>
+        <translation>un campo de puntos de tipo &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <location line="+31"/>
+        <source>Scan %1</source>
+        <translation>Escaneo %1</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>no compressed vector of points</source>
+        <translation>ningún vector comprimido de puntos</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>no record count</source>
+        <translation>ningún número de registros</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>only the bit-pack codec is supported</source>
+        <translation>solo se admite el códec bit-pack</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>no prototype</source>
+        <translation>ningún prototipo</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the field %1 comes twice</source>
+        <translation>el campo %1 aparece dos veces</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>the points have neither cartesian nor spherical coordinates</source>
+        <translation>los puntos no tienen coordenadas cartesianas ni esféricas</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>a row index without a column index, or the other way round</source>
+        <translation>un índice de fila sin índice de columna, o al revés</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>%1 %2 makes no grid</source>
+        <translation>%1 %2 no forma una cuadrícula</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>a grid of %1 × %2 is too large</source>
+        <translation>una cuadrícula de %1 × %2 es demasiado grande</translation>
+    </message>
+    <message>
+        <location line="+43"/>
+        <source>an image of %1 bytes</source>
+        <translation>una imagen de %1 bytes</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>too short for an E57 file</source>
+        <translation>demasiado corto para un archivo E57</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>not an E57 file</source>
+        <translation>no es un archivo E57</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>E57 version %1 is not supported</source>
+        <translation>la versión E57 %1 no es compatible</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the file is %1 bytes long, its header says %2</source>
+        <translation>el archivo tiene %1 bytes, su cabecera dice %2</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the XML section (%1 bytes at byte %2) does not fit the file</source>
+        <translation>la sección XML (%1 bytes en el byte %2) no cabe en el archivo</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>XML section, %1</source>
+        <translation>sección XML, %1</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>no scan in the file</source>
+        <translation>ningún escaneo en el archivo</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::E57XmlNode</name>
+    <message>
+        <location filename="../libs/core/src/fileio/e57xmlnode.cpp" line="+19"/>
+        <source>line %1: the XML is too large or too deep</source>
+        <translation>línea %1: el XML es demasiado grande o demasiado profundo</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>line %1: %2</source>
+        <translation>línea %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>TVX::CORE::FileTreeModel</name>
     <message>
         <location filename="../libs/core/src/project/filetreemodel.cpp" line="+246"/>
@@ -692,6 +963,24 @@ Delete the lock file?</source>
     </message>
 </context>
 <context>
+    <name>TVX::CORE::MDIPointcloudViewSubWindow</name>
+    <message>
+        <location filename="../libs/core/src/mainwindow/mdipointcloudviewsubwindow.cpp" line="+27"/>
+        <source>Reset up-vector</source>
+        <translation>Restablecer el vector vertical</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Color</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Background Color</source>
+        <translation>Color de fondo</translation>
+    </message>
+</context>
+<context>
     <name>TVX::CORE::PointInfoTableModel</name>
     <message>
         <location filename="../libs/core/src/mainwindow/pointinfotablemodel.cpp" line="+118"/>
@@ -740,6 +1029,108 @@ Delete the lock file?</source>
         <location line="+1"/>
         <source>Set Value of z-Coordinate</source>
         <translation>Establecer valor de la coordenada z</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::PointcloudViewGLWidget</name>
+    <message>
+        <location filename="../libs/core/src/glviews/pointcloudviewglwidget.cpp" line="+303"/>
+        <source>Background Color</source>
+        <translation>Color de fondo</translation>
+    </message>
+    <message>
+        <location line="+38"/>
+        <source>Scan Colours</source>
+        <translation>Colores del escaneo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Intensity</source>
+        <translation>Intensidad</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Black</source>
+        <translation>Negro</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Dark Grey</source>
+        <translation>Gris oscuro</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Red</source>
+        <translation>Rojo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Yellow</source>
+        <translation>Amarillo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cyan</source>
+        <translation>Cian</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Orange</source>
+        <translation>Naranja</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>White</source>
+        <translation>Blanco</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::ProjectImport</name>
+    <message>
+        <location filename="../libs/core/src/project/projectimport.cpp" line="+70"/>
+        <source>%1: only PTX and E57 files can be imported</source>
+        <translation>%1: solo se pueden importar archivos PTX y E57</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>no project is open for writing</source>
+        <translation>no hay ningún proyecto abierto para escritura</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+89"/>
+        <source>cannot create %1</source>
+        <translation>no se puede crear %1</translation>
+    </message>
+    <message>
+        <location line="-56"/>
+        <source>%1: not enough memory</source>
+        <translation>%1: memoria insuficiente</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>%1: the written scan cannot be read back: %2</source>
+        <translation>%1: no se puede volver a leer el escaneo escrito: %2</translation>
+    </message>
+    <message>
+        <location line="+59"/>
+        <source>%1 cannot be written</source>
+        <translation>no se puede escribir %1</translation>
     </message>
 </context>
 <context>
@@ -858,6 +1249,90 @@ Causa: %1
     </message>
 </context>
 <context>
+    <name>TVX::CORE::PtxReader</name>
+    <message>
+        <location filename="../libs/core/src/fileio/ptxreader.cpp" line="+37"/>
+        <source>cannot seek to byte %1</source>
+        <translation>no se puede ir al byte %1</translation>
+    </message>
+    <message>
+        <location line="+46"/>
+        <source>line longer than %1 bytes</source>
+        <translation>línea de más de %1 bytes</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>cannot read: %1</source>
+        <translation>no se puede leer: %1</translation>
+    </message>
+    <message>
+        <location line="+106"/>
+        <source>the file ends inside a scan</source>
+        <translation>el archivo termina dentro de un escaneo</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>expected %1 numbers</source>
+        <translation>se esperaban %1 números</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <location line="+32"/>
+        <source>a number that is not finite</source>
+        <translation>un número que no es finito</translation>
+    </message>
+    <message>
+        <location line="-7"/>
+        <source>the file ends inside a scan header</source>
+        <translation>el archivo termina dentro de la cabecera de un escaneo</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>a header line of %1 numbers expected</source>
+        <translation>se esperaba una línea de cabecera de %1 números</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>%1 %2 is not between 1 and %3</source>
+        <translation>%1 %2 no está entre 1 y %3</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>Scan %1</source>
+        <translation>Escaneo %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>column count</source>
+        <translation>número de columnas</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>row count</source>
+        <translation>número de filas</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 × %2 points are more than %3</source>
+        <translation>%1 × %2 puntos son más de %3</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>the file ends at line %1, inside scan %2 of %3 × %4 points</source>
+        <translation>el archivo termina en la línea %1, dentro del escaneo %2 de %3 × %4 puntos</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>expected 4 or 7 numbers</source>
+        <translation>se esperaban 4 o 7 números</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>no scan in the file</source>
+        <translation>ningún escaneo en el archivo</translation>
+    </message>
+</context>
+<context>
     <name>TVX::CORE::ReferencePointsTableModel</name>
     <message>
         <location filename="../libs/core/src/project/referencepointstablemodel.cpp" line="+42"/>
@@ -898,6 +1373,79 @@ Causa: %1
         <location line="+2"/>
         <source>Radius [m]</source>
         <translation>Radio [m]</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::ScanImporter</name>
+    <message>
+        <location filename="../libs/core/src/fileio/scanimporter.cpp" line="+117"/>
+        <source>a point at column %1, row %2 lies outside the grid of %3 × %4</source>
+        <translation>un punto en la columna %1, fila %2 está fuera de la cuadrícula de %3 × %4</translation>
+    </message>
+    <message>
+        <location line="+94"/>
+        <source>a grid of %1 × %2 for only %3 points</source>
+        <translation>una cuadrícula de %1 × %2 para solo %3 puntos</translation>
+    </message>
+    <message>
+        <location line="+111"/>
+        <source>no point with a return to grid</source>
+        <translation>ningún punto con retorno que colocar en la cuadrícula</translation>
+    </message>
+    <message>
+        <location line="+79"/>
+        <source>a step of %1° makes more than %2 cells; choose a larger step</source>
+        <translation>un paso de %1° produce más de %2 celdas; elija un paso mayor</translation>
+    </message>
+    <message>
+        <location line="+73"/>
+        <source>the point of cell (%1, %2) is not finite</source>
+        <translation>el punto de la celda (%1, %2) no es finito</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the point of cell (%1, %2) lies %3 m away, beyond the %4 m that scan files store</source>
+        <translation>el punto de la celda (%1, %2) está a %3 m, más allá de los %4 m que guardan los archivos de escaneo</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>the grid of %1 × %2 is too large to be held whole; at most %3 cells</source>
+        <translation>la cuadrícula de %1 × %2 es demasiado grande para mantenerla entera; como máximo %3 celdas</translation>
+    </message>
+    <message>
+        <location line="+35"/>
+        <source>the points of column %1 are not stored together</source>
+        <translation>los puntos de la columna %1 no están guardados juntos</translation>
+    </message>
+    <message>
+        <location line="+68"/>
+        <source>its panorama image cannot be decoded</source>
+        <translation>no se puede decodificar su imagen panorámica</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <source>no memory for a panorama of %1 × %2 pixels</source>
+        <translation>no hay memoria para un panorama de %1 × %2 píxeles</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::SphericalViewGLWidget</name>
+    <message>
+        <location filename="../libs/core/src/glviews/sphericalviewglwidget.cpp" line="+220"/>
+        <source>Error Initializing Display Driver</source>
+        <translation>Error al inicializar el controlador gráfico</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>OpenGL driver could not be initialized without errors.</source>
+        <translation>No se pudo inicializar el controlador OpenGL sin errores.</translation>
+    </message>
+    <message>
+        <location line="+232"/>
+        <source>%1
+distance: %2 m</source>
+        <translation>%1
+distancia: %2 m</translation>
     </message>
 </context>
 <context>

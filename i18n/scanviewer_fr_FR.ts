@@ -4,7 +4,7 @@
 <context>
     <name>TVX::CORE::BasicMainWindow</name>
     <message>
-        <location filename="../libs/core/src/mainwindow/basicmainwindow.cpp" line="+214"/>
+        <location filename="../libs/core/src/mainwindow/basicmainwindow.cpp" line="+285"/>
         <source>Project</source>
         <translation>Projet</translation>
     </message>
@@ -119,12 +119,18 @@
         <translation>Ajouter une ellipse</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-232"/>
+        <location line="+233"/>
         <source>Add Text</source>
         <translation>Ajouter un texte</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="-233"/>
+        <source>Text:</source>
+        <translation>Texte :</translation>
+    </message>
+    <message>
+        <location line="+244"/>
         <source>3D Distance</source>
         <translation>Distance 3D</translation>
     </message>
@@ -216,19 +222,19 @@
     <message>
         <location line="+71"/>
         <location line="+125"/>
-        <location line="+325"/>
+        <location line="+432"/>
         <source>Read-only project</source>
         <translation>Projet en lecture seule</translation>
     </message>
     <message>
-        <location line="-449"/>
+        <location line="-556"/>
         <location line="+125"/>
-        <location line="+325"/>
+        <location line="+432"/>
         <source>Changes could not be saved, because the project was opened in read-only mode.</source>
         <translation>Les modifications n&apos;ont pas pu être enregistrées, car le projet a été ouvert en lecture seule.</translation>
     </message>
     <message>
-        <location line="-446"/>
+        <location line="-553"/>
         <source>Save Changes?</source>
         <translation>Enregistrer les modifications ?</translation>
     </message>
@@ -335,23 +341,44 @@
         <translation>Tarvenix Viewer : %1[*]</translation>
     </message>
     <message>
-        <location line="+9"/>
-        <location line="+16"/>
+        <location line="+11"/>
+        <location line="+21"/>
+        <location line="+8"/>
         <source>Add Scans</source>
         <translation>Ajouter des scans</translation>
     </message>
     <message>
-        <location line="-16"/>
-        <source>Scan Files (*.tvx)</source>
-        <translation>Fichiers de scan (*.tvx)</translation>
+        <location line="-28"/>
+        <source>Scans (*.tvx %1);;Scan Files (*.tvx);;Scans of Other Scanners (%1)</source>
+        <translation>Scans (*.tvx %1);;Fichiers de scan (*.tvx);;Scans d&apos;autres scanners (%1)</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+231"/>
+        <source>The scan %1 cannot be read.</source>
+        <translation>Le scan %1 ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Spherical View: </source>
+        <translation>Vue sphérique : </translation>
+    </message>
+    <message>
+        <location line="+43"/>
+        <source>The points of scan %1 cannot be read: %2</source>
+        <translation>Les points du scan %1 ne peuvent pas être lus : %2</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Pointcloud View: </source>
+        <translation>Vue nuage de points : </translation>
+    </message>
+    <message>
+        <location line="-271"/>
         <source>Scan %1 added.</source>
         <translation>Scan %1 ajouté.</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+4"/>
         <source>These scans could not be added:
 
 %1</source>
@@ -360,7 +387,27 @@
 %1</translation>
     </message>
     <message>
-        <location line="+75"/>
+        <location line="+7"/>
+        <source>Importing %1 ...</source>
+        <translation>Importation de %1 ...</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Import of %1 cancelled; nothing was added.</source>
+        <translation>Importation de %1 annulée ; rien n&apos;a été ajouté.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Scans imported from %1 into the folder %2: %3.</source>
+        <translation>Scans importés de %1 dans le dossier %2 : %3.</translation>
+    </message>
+    <message>
+        <location line="+78"/>
         <source>Open Planar View</source>
         <translation>Ouvrir la vue plane</translation>
     </message>
@@ -386,36 +433,31 @@
     </message>
     <message>
         <location line="+39"/>
+        <location line="+58"/>
         <source>The panorama %1 cannot be read.</source>
         <translation>Le panorama %1 ne peut pas être lu.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-57"/>
+        <location line="+59"/>
+        <location line="+51"/>
         <source>Open a new View Failed</source>
         <translation>Échec de l&apos;ouverture d&apos;une nouvelle vue</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-109"/>
+        <location line="+59"/>
+        <location line="+51"/>
         <source>Tarvenix was unable to open a new scan view. Please close some other views and try again.</source>
         <translation>Tarvenix n&apos;a pas pu ouvrir une nouvelle vue du scan. Veuillez fermer d&apos;autres vues et réessayer.</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="-105"/>
         <source>Planar View: </source>
         <translation>Vue plane : </translation>
     </message>
     <message>
-        <location line="+38"/>
-        <source>Spherical views are not available in this version (scan %1).</source>
-        <translation>Les vues sphériques ne sont pas disponibles dans cette version (scan %1).</translation>
-    </message>
-    <message>
-        <location line="+5"/>
-        <source>Point cloud views are not available in this version (scan %1).</source>
-        <translation>Les vues nuage de points ne sont pas disponibles dans cette version (scan %1).</translation>
-    </message>
-    <message>
-        <location line="+68"/>
+        <location line="+182"/>
         <source>Error reading file</source>
         <translation>Erreur de lecture du fichier</translation>
     </message>
@@ -468,7 +510,7 @@
 </translation>
     </message>
     <message>
-        <location line="+63"/>
+        <location line="+73"/>
         <source>Area selected in %1: columns %2 to %3, rows %4 to %5.</source>
         <translation>Zone sélectionnée dans %1 : colonnes %2 à %3, lignes %4 à %5.</translation>
     </message>
@@ -586,6 +628,235 @@ Supprimer le fichier de verrouillage ?</translation>
     </message>
 </context>
 <context>
+    <name>TVX::CORE::E57PagedFile</name>
+    <message>
+        <location filename="../libs/core/src/fileio/e57pagedfile.cpp" line="+24"/>
+        <source>page size %1 is not between %2 and %3</source>
+        <translation>la taille de page %1 n&apos;est pas comprise entre %2 et %3</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>page %1 lies past the end of the file (%2 pages)</source>
+        <translation>la page %1 se trouve après la fin du fichier (%2 pages)</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>cannot read page %1: %2</source>
+        <translation>impossible de lire la page %1 : %2</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>page %1: the checksum does not match</source>
+        <translation>page %1 : la somme de contrôle ne correspond pas</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::E57Reader</name>
+    <message>
+        <location filename="../libs/core/src/fileio/e57reader.cpp" line="+111"/>
+        <source>the image blob at byte %1 is not one</source>
+        <translation>le bloc d&apos;image à l&apos;octet %1 n&apos;en est pas un</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>the compressed vector at byte %1 lies past the end of the file</source>
+        <translation>le vecteur compressé à l&apos;octet %1 se trouve après la fin du fichier</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>byte %1 holds no compressed vector section</source>
+        <translation>l&apos;octet %1 ne contient aucune section de vecteur compressé</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>the compressed vector at byte %1 claims %2 bytes, more than the file holds</source>
+        <translation>le vecteur compressé à l&apos;octet %1 annonce %2 octets, plus que le fichier n&apos;en contient</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>the data of the compressed vector at byte %1 lie outside its section</source>
+        <translation>les données du vecteur compressé à l&apos;octet %1 se trouvent hors de sa section</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>the packet at byte %1 runs past the end of its section</source>
+        <translation>le paquet à l&apos;octet %1 dépasse la fin de sa section</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>byte %1 holds no packet</source>
+        <translation>l&apos;octet %1 ne contient aucun paquet</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>the packet at byte %1 holds %2 bytestreams for %3 fields</source>
+        <translation>le paquet à l&apos;octet %1 contient %2 flux d&apos;octets pour %3 champs</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the packet at byte %1 is shorter than its header</source>
+        <translation>le paquet à l&apos;octet %1 est plus court que son en-tête</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>the bytestreams of the packet at byte %1 run past its end</source>
+        <translation>les flux d&apos;octets du paquet à l&apos;octet %1 dépassent sa fin</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>the field %1 runs ahead of the others by more than %2 bytes</source>
+        <translation>le champ %1 devance les autres de plus de %2 octets</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>the compressed vector ends after %1 of %2 records</source>
+        <translation>le vecteur compressé s&apos;arrête après %1 enregistrements sur %2</translation>
+    </message>
+    <message>
+        <location line="+71"/>
+        <source>record %1: the coordinates are not finite</source>
+        <translation>enregistrement %1 : les coordonnées ne sont pas finies</translation>
+    </message>
+    <message>
+        <location line="+61"/>
+        <source>&quot;%1&quot; is no number</source>
+        <translation>« %1 » n&apos;est pas un nombre</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>&quot;%1&quot; is no integer</source>
+        <translation>« %1 » n&apos;est pas un entier</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>%1 &quot;%2&quot; lies outside the file&apos;s data</source>
+        <translation>%1 « %2 » se trouve hors des données du fichier</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>the quaternion has no length</source>
+        <translation>le quaternion est de longueur nulle</translation>
+    </message>
+    <message>
+        <location line="+34"/>
+        <source>%1 &quot;%2&quot; is no number</source>
+        <translation>%1 « %2 » n&apos;est pas un nombre</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>minimum %1 lies above maximum %2</source>
+        <translation>le minimum %1 dépasse le maximum %2</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>a point field of type &quot;%1&quot;</source>
+        <translation>un champ de points de type « %1 »</translation>
+    </message>
+    <message>
+        <location line="+31"/>
+        <source>Scan %1</source>
+        <translation>Scan %1</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>no compressed vector of points</source>
+        <translation>aucun vecteur compressé de points</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>no record count</source>
+        <translation>aucun nombre d&apos;enregistrements</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>only the bit-pack codec is supported</source>
+        <translation>seul le codec bit-pack est pris en charge</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>no prototype</source>
+        <translation>aucun prototype</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the field %1 comes twice</source>
+        <translation>le champ %1 apparaît deux fois</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>the points have neither cartesian nor spherical coordinates</source>
+        <translation>les points n&apos;ont ni coordonnées cartésiennes ni sphériques</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>a row index without a column index, or the other way round</source>
+        <translation>un indice de ligne sans indice de colonne, ou l&apos;inverse</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>%1 %2 makes no grid</source>
+        <translation>%1 %2 ne forme pas de grille</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>a grid of %1 × %2 is too large</source>
+        <translation>une grille de %1 × %2 est trop grande</translation>
+    </message>
+    <message>
+        <location line="+43"/>
+        <source>an image of %1 bytes</source>
+        <translation>une image de %1 octets</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>too short for an E57 file</source>
+        <translation>trop court pour un fichier E57</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>not an E57 file</source>
+        <translation>pas un fichier E57</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>E57 version %1 is not supported</source>
+        <translation>la version E57 %1 n&apos;est pas prise en charge</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the file is %1 bytes long, its header says %2</source>
+        <translation>le fichier fait %1 octets, son en-tête indique %2</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the XML section (%1 bytes at byte %2) does not fit the file</source>
+        <translation>la section XML (%1 octets à l&apos;octet %2) ne tient pas dans le fichier</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>XML section, %1</source>
+        <translation>section XML, %1</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>no scan in the file</source>
+        <translation>aucun scan dans le fichier</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::E57XmlNode</name>
+    <message>
+        <location filename="../libs/core/src/fileio/e57xmlnode.cpp" line="+19"/>
+        <source>line %1: the XML is too large or too deep</source>
+        <translation>ligne %1 : le XML est trop grand ou trop imbriqué</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>line %1: %2</source>
+        <translation>ligne %1 : %2</translation>
+    </message>
+</context>
+<context>
     <name>TVX::CORE::FileTreeModel</name>
     <message>
         <location filename="../libs/core/src/project/filetreemodel.cpp" line="+246"/>
@@ -692,6 +963,24 @@ Supprimer le fichier de verrouillage ?</translation>
     </message>
 </context>
 <context>
+    <name>TVX::CORE::MDIPointcloudViewSubWindow</name>
+    <message>
+        <location filename="../libs/core/src/mainwindow/mdipointcloudviewsubwindow.cpp" line="+27"/>
+        <source>Reset up-vector</source>
+        <translation>Réinitialiser le vecteur vertical</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Color</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Background Color</source>
+        <translation>Couleur d&apos;arrière-plan</translation>
+    </message>
+</context>
+<context>
     <name>TVX::CORE::PointInfoTableModel</name>
     <message>
         <location filename="../libs/core/src/mainwindow/pointinfotablemodel.cpp" line="+118"/>
@@ -740,6 +1029,108 @@ Supprimer le fichier de verrouillage ?</translation>
         <location line="+1"/>
         <source>Set Value of z-Coordinate</source>
         <translation>Définir la valeur de la coordonnée z</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::PointcloudViewGLWidget</name>
+    <message>
+        <location filename="../libs/core/src/glviews/pointcloudviewglwidget.cpp" line="+303"/>
+        <source>Background Color</source>
+        <translation>Couleur d&apos;arrière-plan</translation>
+    </message>
+    <message>
+        <location line="+38"/>
+        <source>Scan Colours</source>
+        <translation>Couleurs du scan</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Intensity</source>
+        <translation>Intensité</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Black</source>
+        <translation>Noir</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Dark Grey</source>
+        <translation>Gris foncé</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Yellow</source>
+        <translation>Jaune</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>White</source>
+        <translation>Blanc</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::ProjectImport</name>
+    <message>
+        <location filename="../libs/core/src/project/projectimport.cpp" line="+70"/>
+        <source>%1: only PTX and E57 files can be imported</source>
+        <translation>%1 : seuls les fichiers PTX et E57 peuvent être importés</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>no project is open for writing</source>
+        <translation>aucun projet n&apos;est ouvert en écriture</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+89"/>
+        <source>cannot create %1</source>
+        <translation>impossible de créer %1</translation>
+    </message>
+    <message>
+        <location line="-56"/>
+        <source>%1: not enough memory</source>
+        <translation>%1 : mémoire insuffisante</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>%1: the written scan cannot be read back: %2</source>
+        <translation>%1 : le scan écrit ne peut pas être relu : %2</translation>
+    </message>
+    <message>
+        <location line="+59"/>
+        <source>%1 cannot be written</source>
+        <translation>%1 ne peut pas être écrit</translation>
     </message>
 </context>
 <context>
@@ -858,6 +1249,90 @@ Cause : %1
     </message>
 </context>
 <context>
+    <name>TVX::CORE::PtxReader</name>
+    <message>
+        <location filename="../libs/core/src/fileio/ptxreader.cpp" line="+37"/>
+        <source>cannot seek to byte %1</source>
+        <translation>impossible d&apos;aller à l&apos;octet %1</translation>
+    </message>
+    <message>
+        <location line="+46"/>
+        <source>line longer than %1 bytes</source>
+        <translation>ligne de plus de %1 octets</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>cannot read: %1</source>
+        <translation>lecture impossible : %1</translation>
+    </message>
+    <message>
+        <location line="+106"/>
+        <source>the file ends inside a scan</source>
+        <translation>le fichier se termine au milieu d&apos;un scan</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>expected %1 numbers</source>
+        <translation>%1 nombres attendus</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <location line="+32"/>
+        <source>a number that is not finite</source>
+        <translation>un nombre qui n&apos;est pas fini</translation>
+    </message>
+    <message>
+        <location line="-7"/>
+        <source>the file ends inside a scan header</source>
+        <translation>le fichier se termine au milieu de l&apos;en-tête d&apos;un scan</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>a header line of %1 numbers expected</source>
+        <translation>une ligne d&apos;en-tête de %1 nombres attendue</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>%1 %2 is not between 1 and %3</source>
+        <translation>%1 %2 n&apos;est pas compris entre 1 et %3</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>Scan %1</source>
+        <translation>Scan %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>column count</source>
+        <translation>nombre de colonnes</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>row count</source>
+        <translation>nombre de lignes</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 × %2 points are more than %3</source>
+        <translation>%1 × %2 points, c&apos;est plus que %3</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>the file ends at line %1, inside scan %2 of %3 × %4 points</source>
+        <translation>le fichier se termine à la ligne %1, au milieu du scan %2 de %3 × %4 points</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>expected 4 or 7 numbers</source>
+        <translation>4 ou 7 nombres attendus</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>no scan in the file</source>
+        <translation>aucun scan dans le fichier</translation>
+    </message>
+</context>
+<context>
     <name>TVX::CORE::ReferencePointsTableModel</name>
     <message>
         <location filename="../libs/core/src/project/referencepointstablemodel.cpp" line="+42"/>
@@ -898,6 +1373,79 @@ Cause : %1
         <location line="+2"/>
         <source>Radius [m]</source>
         <translation>Rayon [m]</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::ScanImporter</name>
+    <message>
+        <location filename="../libs/core/src/fileio/scanimporter.cpp" line="+117"/>
+        <source>a point at column %1, row %2 lies outside the grid of %3 × %4</source>
+        <translation>un point à la colonne %1, ligne %2 se trouve hors de la grille de %3 × %4</translation>
+    </message>
+    <message>
+        <location line="+94"/>
+        <source>a grid of %1 × %2 for only %3 points</source>
+        <translation>une grille de %1 × %2 pour seulement %3 points</translation>
+    </message>
+    <message>
+        <location line="+111"/>
+        <source>no point with a return to grid</source>
+        <translation>aucun point avec retour à mettre en grille</translation>
+    </message>
+    <message>
+        <location line="+79"/>
+        <source>a step of %1° makes more than %2 cells; choose a larger step</source>
+        <translation>un pas de %1° donne plus de %2 cellules ; choisissez un pas plus grand</translation>
+    </message>
+    <message>
+        <location line="+73"/>
+        <source>the point of cell (%1, %2) is not finite</source>
+        <translation>le point de la cellule (%1, %2) n&apos;est pas fini</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the point of cell (%1, %2) lies %3 m away, beyond the %4 m that scan files store</source>
+        <translation>le point de la cellule (%1, %2) est à %3 m, au-delà des %4 m que stockent les fichiers de scan</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>the grid of %1 × %2 is too large to be held whole; at most %3 cells</source>
+        <translation>la grille de %1 × %2 est trop grande pour être gardée entière ; au plus %3 cellules</translation>
+    </message>
+    <message>
+        <location line="+35"/>
+        <source>the points of column %1 are not stored together</source>
+        <translation>les points de la colonne %1 ne sont pas stockés ensemble</translation>
+    </message>
+    <message>
+        <location line="+68"/>
+        <source>its panorama image cannot be decoded</source>
+        <translation>son image panoramique ne peut pas être décodée</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <source>no memory for a panorama of %1 × %2 pixels</source>
+        <translation>pas de mémoire pour un panorama de %1 × %2 pixels</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::SphericalViewGLWidget</name>
+    <message>
+        <location filename="../libs/core/src/glviews/sphericalviewglwidget.cpp" line="+220"/>
+        <source>Error Initializing Display Driver</source>
+        <translation>Erreur lors de l&apos;initialisation du pilote graphique</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>OpenGL driver could not be initialized without errors.</source>
+        <translation>Le pilote OpenGL n&apos;a pas pu être initialisé sans erreur.</translation>
+    </message>
+    <message>
+        <location line="+232"/>
+        <source>%1
+distance: %2 m</source>
+        <translation>%1
+distance : %2 m</translation>
     </message>
 </context>
 <context>

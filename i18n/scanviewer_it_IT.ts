@@ -4,7 +4,7 @@
 <context>
     <name>TVX::CORE::BasicMainWindow</name>
     <message>
-        <location filename="../libs/core/src/mainwindow/basicmainwindow.cpp" line="+214"/>
+        <location filename="../libs/core/src/mainwindow/basicmainwindow.cpp" line="+285"/>
         <source>Project</source>
         <translation>Progetto</translation>
     </message>
@@ -119,12 +119,18 @@
         <translation>Aggiungi ellisse</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-232"/>
+        <location line="+233"/>
         <source>Add Text</source>
         <translation>Aggiungi testo</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="-233"/>
+        <source>Text:</source>
+        <translation>Testo:</translation>
+    </message>
+    <message>
+        <location line="+244"/>
         <source>3D Distance</source>
         <translation>Distanza 3D</translation>
     </message>
@@ -216,19 +222,19 @@
     <message>
         <location line="+71"/>
         <location line="+125"/>
-        <location line="+325"/>
+        <location line="+432"/>
         <source>Read-only project</source>
         <translation>Progetto in sola lettura</translation>
     </message>
     <message>
-        <location line="-449"/>
+        <location line="-556"/>
         <location line="+125"/>
-        <location line="+325"/>
+        <location line="+432"/>
         <source>Changes could not be saved, because the project was opened in read-only mode.</source>
         <translation>Non è stato possibile salvare le modifiche, perché il progetto è stato aperto in sola lettura.</translation>
     </message>
     <message>
-        <location line="-446"/>
+        <location line="-553"/>
         <source>Save Changes?</source>
         <translation>Salvare le modifiche?</translation>
     </message>
@@ -335,23 +341,44 @@
         <translation>Tarvenix Viewer: %1[*]</translation>
     </message>
     <message>
-        <location line="+9"/>
-        <location line="+16"/>
+        <location line="+11"/>
+        <location line="+21"/>
+        <location line="+8"/>
         <source>Add Scans</source>
         <translation>Aggiungi scansioni</translation>
     </message>
     <message>
-        <location line="-16"/>
-        <source>Scan Files (*.tvx)</source>
-        <translation>File di scansione (*.tvx)</translation>
+        <location line="-28"/>
+        <source>Scans (*.tvx %1);;Scan Files (*.tvx);;Scans of Other Scanners (%1)</source>
+        <translation>Scansioni (*.tvx %1);;File di scansione (*.tvx);;Scansioni di altri scanner (%1)</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+231"/>
+        <source>The scan %1 cannot be read.</source>
+        <translation>Impossibile leggere la scansione %1.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Spherical View: </source>
+        <translation>Vista sferica: </translation>
+    </message>
+    <message>
+        <location line="+43"/>
+        <source>The points of scan %1 cannot be read: %2</source>
+        <translation>Impossibile leggere i punti della scansione %1: %2</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Pointcloud View: </source>
+        <translation>Vista nuvola di punti: </translation>
+    </message>
+    <message>
+        <location line="-271"/>
         <source>Scan %1 added.</source>
         <translation>Scansione %1 aggiunta.</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+4"/>
         <source>These scans could not be added:
 
 %1</source>
@@ -360,7 +387,27 @@
 %1</translation>
     </message>
     <message>
-        <location line="+75"/>
+        <location line="+7"/>
+        <source>Importing %1 ...</source>
+        <translation>Importazione di %1 ...</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Import of %1 cancelled; nothing was added.</source>
+        <translation>Importazione di %1 annullata; non è stato aggiunto nulla.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Scans imported from %1 into the folder %2: %3.</source>
+        <translation>Scansioni importate da %1 nella cartella %2: %3.</translation>
+    </message>
+    <message>
+        <location line="+78"/>
         <source>Open Planar View</source>
         <translation>Apri vista planare</translation>
     </message>
@@ -386,36 +433,31 @@
     </message>
     <message>
         <location line="+39"/>
+        <location line="+58"/>
         <source>The panorama %1 cannot be read.</source>
         <translation>Impossibile leggere il panorama %1.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-57"/>
+        <location line="+59"/>
+        <location line="+51"/>
         <source>Open a new View Failed</source>
         <translation>Apertura di una nuova vista non riuscita</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-109"/>
+        <location line="+59"/>
+        <location line="+51"/>
         <source>Tarvenix was unable to open a new scan view. Please close some other views and try again.</source>
         <translation>Tarvenix non è riuscito ad aprire una nuova vista della scansione. Chiudere alcune altre viste e riprovare.</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="-105"/>
         <source>Planar View: </source>
         <translation>Vista planare: </translation>
     </message>
     <message>
-        <location line="+38"/>
-        <source>Spherical views are not available in this version (scan %1).</source>
-        <translation>Le viste sferiche non sono disponibili in questa versione (scansione %1).</translation>
-    </message>
-    <message>
-        <location line="+5"/>
-        <source>Point cloud views are not available in this version (scan %1).</source>
-        <translation>Le viste nuvola di punti non sono disponibili in questa versione (scansione %1).</translation>
-    </message>
-    <message>
-        <location line="+68"/>
+        <location line="+182"/>
         <source>Error reading file</source>
         <translation>Errore di lettura del file</translation>
     </message>
@@ -468,7 +510,7 @@
 </translation>
     </message>
     <message>
-        <location line="+63"/>
+        <location line="+73"/>
         <source>Area selected in %1: columns %2 to %3, rows %4 to %5.</source>
         <translation>Area selezionata in %1: colonne da %2 a %3, righe da %4 a %5.</translation>
     </message>
@@ -586,6 +628,235 @@ Eliminare il file di blocco?</translation>
     </message>
 </context>
 <context>
+    <name>TVX::CORE::E57PagedFile</name>
+    <message>
+        <location filename="../libs/core/src/fileio/e57pagedfile.cpp" line="+24"/>
+        <source>page size %1 is not between %2 and %3</source>
+        <translation>la dimensione di pagina %1 non è compresa tra %2 e %3</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>page %1 lies past the end of the file (%2 pages)</source>
+        <translation>la pagina %1 si trova oltre la fine del file (%2 pagine)</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>cannot read page %1: %2</source>
+        <translation>impossibile leggere la pagina %1: %2</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>page %1: the checksum does not match</source>
+        <translation>pagina %1: il checksum non corrisponde</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::E57Reader</name>
+    <message>
+        <location filename="../libs/core/src/fileio/e57reader.cpp" line="+111"/>
+        <source>the image blob at byte %1 is not one</source>
+        <translation>il blocco immagine al byte %1 non è valido</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>the compressed vector at byte %1 lies past the end of the file</source>
+        <translation>il vettore compresso al byte %1 si trova oltre la fine del file</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>byte %1 holds no compressed vector section</source>
+        <translation>il byte %1 non contiene una sezione di vettore compresso</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>the compressed vector at byte %1 claims %2 bytes, more than the file holds</source>
+        <translation>il vettore compresso al byte %1 dichiara %2 byte, più di quanti ne contenga il file</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>the data of the compressed vector at byte %1 lie outside its section</source>
+        <translation>i dati del vettore compresso al byte %1 si trovano fuori dalla sua sezione</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>the packet at byte %1 runs past the end of its section</source>
+        <translation>il pacchetto al byte %1 supera la fine della sua sezione</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>byte %1 holds no packet</source>
+        <translation>il byte %1 non contiene alcun pacchetto</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>the packet at byte %1 holds %2 bytestreams for %3 fields</source>
+        <translation>il pacchetto al byte %1 contiene %2 flussi di byte per %3 campi</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the packet at byte %1 is shorter than its header</source>
+        <translation>il pacchetto al byte %1 è più corto della sua intestazione</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>the bytestreams of the packet at byte %1 run past its end</source>
+        <translation>i flussi di byte del pacchetto al byte %1 superano la sua fine</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>the field %1 runs ahead of the others by more than %2 bytes</source>
+        <translation>il campo %1 precede gli altri di più di %2 byte</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>the compressed vector ends after %1 of %2 records</source>
+        <translation>il vettore compresso termina dopo %1 di %2 record</translation>
+    </message>
+    <message>
+        <location line="+71"/>
+        <source>record %1: the coordinates are not finite</source>
+        <translation>record %1: le coordinate non sono finite</translation>
+    </message>
+    <message>
+        <location line="+61"/>
+        <source>&quot;%1&quot; is no number</source>
+        <translation>&quot;%1&quot; non è un numero</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>&quot;%1&quot; is no integer</source>
+        <translation>&quot;%1&quot; non è un numero intero</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>%1 &quot;%2&quot; lies outside the file&apos;s data</source>
+        <translation>%1 &quot;%2&quot; si trova fuori dai dati del file</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>the quaternion has no length</source>
+        <translation>il quaternione ha lunghezza nulla</translation>
+    </message>
+    <message>
+        <location line="+34"/>
+        <source>%1 &quot;%2&quot; is no number</source>
+        <translation>%1 &quot;%2&quot; non è un numero</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>minimum %1 lies above maximum %2</source>
+        <translation>il minimo %1 è superiore al massimo %2</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>a point field of type &quot;%1&quot;</source>
+        <translation>un campo di punti di tipo &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <location line="+31"/>
+        <source>Scan %1</source>
+        <translation>Scansione %1</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>no compressed vector of points</source>
+        <translation>nessun vettore compresso di punti</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>no record count</source>
+        <translation>nessun numero di record</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>only the bit-pack codec is supported</source>
+        <translation>è supportato solo il codec bit-pack</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>no prototype</source>
+        <translation>nessun prototipo</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the field %1 comes twice</source>
+        <translation>il campo %1 compare due volte</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>the points have neither cartesian nor spherical coordinates</source>
+        <translation>i punti non hanno né coordinate cartesiane né sferiche</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>a row index without a column index, or the other way round</source>
+        <translation>un indice di riga senza indice di colonna, o viceversa</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>%1 %2 makes no grid</source>
+        <translation>%1 %2 non forma una griglia</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>a grid of %1 × %2 is too large</source>
+        <translation>una griglia di %1 × %2 è troppo grande</translation>
+    </message>
+    <message>
+        <location line="+43"/>
+        <source>an image of %1 bytes</source>
+        <translation>un&apos;immagine di %1 byte</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>too short for an E57 file</source>
+        <translation>troppo corto per un file E57</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>not an E57 file</source>
+        <translation>non è un file E57</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>E57 version %1 is not supported</source>
+        <translation>la versione E57 %1 non è supportata</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the file is %1 bytes long, its header says %2</source>
+        <translation>il file è lungo %1 byte, la sua intestazione dice %2</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the XML section (%1 bytes at byte %2) does not fit the file</source>
+        <translation>la sezione XML (%1 byte al byte %2) non rientra nel file</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>XML section, %1</source>
+        <translation>sezione XML, %1</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>no scan in the file</source>
+        <translation>nessuna scansione nel file</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::E57XmlNode</name>
+    <message>
+        <location filename="../libs/core/src/fileio/e57xmlnode.cpp" line="+19"/>
+        <source>line %1: the XML is too large or too deep</source>
+        <translation>riga %1: l&apos;XML è troppo grande o troppo annidato</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>line %1: %2</source>
+        <translation>riga %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>TVX::CORE::FileTreeModel</name>
     <message>
         <location filename="../libs/core/src/project/filetreemodel.cpp" line="+246"/>
@@ -692,6 +963,24 @@ Eliminare il file di blocco?</translation>
     </message>
 </context>
 <context>
+    <name>TVX::CORE::MDIPointcloudViewSubWindow</name>
+    <message>
+        <location filename="../libs/core/src/mainwindow/mdipointcloudviewsubwindow.cpp" line="+27"/>
+        <source>Reset up-vector</source>
+        <translation>Reimposta il vettore verticale</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Color</source>
+        <translation>Colore</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Background Color</source>
+        <translation>Colore di sfondo</translation>
+    </message>
+</context>
+<context>
     <name>TVX::CORE::PointInfoTableModel</name>
     <message>
         <location filename="../libs/core/src/mainwindow/pointinfotablemodel.cpp" line="+118"/>
@@ -740,6 +1029,108 @@ Eliminare il file di blocco?</translation>
         <location line="+1"/>
         <source>Set Value of z-Coordinate</source>
         <translation>Imposta valore della coordinata z</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::PointcloudViewGLWidget</name>
+    <message>
+        <location filename="../libs/core/src/glviews/pointcloudviewglwidget.cpp" line="+303"/>
+        <source>Background Color</source>
+        <translation>Colore di sfondo</translation>
+    </message>
+    <message>
+        <location line="+38"/>
+        <source>Scan Colours</source>
+        <translation>Colori della scansione</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Intensity</source>
+        <translation>Intensità</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Black</source>
+        <translation>Nero</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Dark Grey</source>
+        <translation>Grigio scuro</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Red</source>
+        <translation>Rosso</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Blue</source>
+        <translation>Blu</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Yellow</source>
+        <translation>Giallo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cyan</source>
+        <translation>Ciano</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Orange</source>
+        <translation>Arancione</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>White</source>
+        <translation>Bianco</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::ProjectImport</name>
+    <message>
+        <location filename="../libs/core/src/project/projectimport.cpp" line="+70"/>
+        <source>%1: only PTX and E57 files can be imported</source>
+        <translation>%1: si possono importare solo file PTX ed E57</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>no project is open for writing</source>
+        <translation>nessun progetto è aperto in scrittura</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+89"/>
+        <source>cannot create %1</source>
+        <translation>impossibile creare %1</translation>
+    </message>
+    <message>
+        <location line="-56"/>
+        <source>%1: not enough memory</source>
+        <translation>%1: memoria insufficiente</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>%1: the written scan cannot be read back: %2</source>
+        <translation>%1: impossibile rileggere la scansione scritta: %2</translation>
+    </message>
+    <message>
+        <location line="+59"/>
+        <source>%1 cannot be written</source>
+        <translation>impossibile scrivere %1</translation>
     </message>
 </context>
 <context>
@@ -858,6 +1249,90 @@ Causa: %1
     </message>
 </context>
 <context>
+    <name>TVX::CORE::PtxReader</name>
+    <message>
+        <location filename="../libs/core/src/fileio/ptxreader.cpp" line="+37"/>
+        <source>cannot seek to byte %1</source>
+        <translation>impossibile posizionarsi al byte %1</translation>
+    </message>
+    <message>
+        <location line="+46"/>
+        <source>line longer than %1 bytes</source>
+        <translation>riga più lunga di %1 byte</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>cannot read: %1</source>
+        <translation>impossibile leggere: %1</translation>
+    </message>
+    <message>
+        <location line="+106"/>
+        <source>the file ends inside a scan</source>
+        <translation>il file termina all&apos;interno di una scansione</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>expected %1 numbers</source>
+        <translation>attesi %1 numeri</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <location line="+32"/>
+        <source>a number that is not finite</source>
+        <translation>un numero non finito</translation>
+    </message>
+    <message>
+        <location line="-7"/>
+        <source>the file ends inside a scan header</source>
+        <translation>il file termina all&apos;interno dell&apos;intestazione di una scansione</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>a header line of %1 numbers expected</source>
+        <translation>attesa una riga di intestazione di %1 numeri</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>%1 %2 is not between 1 and %3</source>
+        <translation>%1 %2 non è compreso tra 1 e %3</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>Scan %1</source>
+        <translation>Scansione %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>column count</source>
+        <translation>numero di colonne</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>row count</source>
+        <translation>numero di righe</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 × %2 points are more than %3</source>
+        <translation>%1 × %2 punti sono più di %3</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>the file ends at line %1, inside scan %2 of %3 × %4 points</source>
+        <translation>il file termina alla riga %1, all&apos;interno della scansione %2 di %3 × %4 punti</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>expected 4 or 7 numbers</source>
+        <translation>attesi 4 o 7 numeri</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>no scan in the file</source>
+        <translation>nessuna scansione nel file</translation>
+    </message>
+</context>
+<context>
     <name>TVX::CORE::ReferencePointsTableModel</name>
     <message>
         <location filename="../libs/core/src/project/referencepointstablemodel.cpp" line="+42"/>
@@ -898,6 +1373,79 @@ Causa: %1
         <location line="+2"/>
         <source>Radius [m]</source>
         <translation>Raggio [m]</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::ScanImporter</name>
+    <message>
+        <location filename="../libs/core/src/fileio/scanimporter.cpp" line="+117"/>
+        <source>a point at column %1, row %2 lies outside the grid of %3 × %4</source>
+        <translation>un punto alla colonna %1, riga %2 si trova fuori dalla griglia di %3 × %4</translation>
+    </message>
+    <message>
+        <location line="+94"/>
+        <source>a grid of %1 × %2 for only %3 points</source>
+        <translation>una griglia di %1 × %2 per soli %3 punti</translation>
+    </message>
+    <message>
+        <location line="+111"/>
+        <source>no point with a return to grid</source>
+        <translation>nessun punto con ritorno da disporre in griglia</translation>
+    </message>
+    <message>
+        <location line="+79"/>
+        <source>a step of %1° makes more than %2 cells; choose a larger step</source>
+        <translation>un passo di %1° produce più di %2 celle; sceglierne uno più grande</translation>
+    </message>
+    <message>
+        <location line="+73"/>
+        <source>the point of cell (%1, %2) is not finite</source>
+        <translation>il punto della cella (%1, %2) non è finito</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>the point of cell (%1, %2) lies %3 m away, beyond the %4 m that scan files store</source>
+        <translation>il punto della cella (%1, %2) dista %3 m, oltre i %4 m che i file di scansione memorizzano</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>the grid of %1 × %2 is too large to be held whole; at most %3 cells</source>
+        <translation>la griglia di %1 × %2 è troppo grande per essere tenuta intera; al massimo %3 celle</translation>
+    </message>
+    <message>
+        <location line="+35"/>
+        <source>the points of column %1 are not stored together</source>
+        <translation>i punti della colonna %1 non sono memorizzati insieme</translation>
+    </message>
+    <message>
+        <location line="+68"/>
+        <source>its panorama image cannot be decoded</source>
+        <translation>impossibile decodificare la sua immagine panoramica</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <source>no memory for a panorama of %1 × %2 pixels</source>
+        <translation>memoria insufficiente per un panorama di %1 × %2 pixel</translation>
+    </message>
+</context>
+<context>
+    <name>TVX::CORE::SphericalViewGLWidget</name>
+    <message>
+        <location filename="../libs/core/src/glviews/sphericalviewglwidget.cpp" line="+220"/>
+        <source>Error Initializing Display Driver</source>
+        <translation>Errore durante l&apos;inizializzazione del driver grafico</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>OpenGL driver could not be initialized without errors.</source>
+        <translation>Non è stato possibile inizializzare il driver OpenGL senza errori.</translation>
+    </message>
+    <message>
+        <location line="+232"/>
+        <source>%1
+distance: %2 m</source>
+        <translation>%1
+distanza: %2 m</translation>
     </message>
 </context>
 <context>

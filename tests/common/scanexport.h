@@ -192,6 +192,7 @@ struct E57Options {
     bool integerIntensity{false}; // intensity as an integer 0 … 4095 instead of a float 0 … 1
     quint64 pageSize{1024};
     quint32 recordsPerPacket{1024};
+    bool otherPackets{false}; // an empty packet before each data packet, an index packet at the end
     // For tests of bad files: a change to the XML, and bytes added to each section's length.
     std::function<QString(const QString&)> editXml;
     qint64 sectionLengthChange{0};
@@ -381,11 +382,13 @@ inline bool writeE57(QIODevice& out, const std::vector<ExportScan>& scans, const
             for (quint64 i = first; i < last; ++i) {
                 const ExportPoint p = scan.point(i);
                 std::vector<double> values;
+                // A point without return keeps numbers that only its invalid state makes void.
+                const double x = p.valid ? p.x : 1, y = p.valid ? p.y : 2, z = p.valid ? p.z : 3;
                 if (spherical) {
-                    const double r = std::sqrt(p.x * p.x + p.y * p.y + p.z * p.z);
-                    values = {r, std::atan2(p.y, p.x), r > 0 ? std::asin(p.z / r) : 0.0};
+                    const double r = std::sqrt(x * x + y * y + z * z);
+                    values = {r, std::atan2(y, x), std::asin(z / r)};
                 } else {
-                    values = {p.x, p.y, p.z};
+                    values = {x, y, z};
                 }
                 values.push_back(p.valid ? 0 : 2);
                 if (indexes) {
@@ -428,9 +431,21 @@ inline bool writeE57(QIODevice& out, const std::vector<ExportScan>& scans, const
             while (packet.size() % 4)
                 packet.append('\0');
             qToLittleEndian(quint16(packet.size() - 1), packet.data() + 2);
+            if (options.otherPackets) {
+                const char empty[8] = {2, 0, 7, 0, 0, 0, 0, 0}; // type, reserved, length − 1, padding
+                pages.append(empty, sizeof empty);
+            }
             pages.append(packet);
             if (lastPacket)
                 break;
+        }
+        if (options.otherPackets) { // one entry: record 0 in the first data packet
+            QByteArray index(32, '\0');
+            index[0] = 0;
+            qToLittleEndian(quint16(index.size() - 1), index.data() + 2);
+            qToLittleEndian(quint16(1), index.data() + 4);
+            qToLittleEndian(pages.physicalOf(dataStart), index.data() + 24);
+            pages.append(index);
         }
         QByteArray header(32, '\0');
         header[0] = 1;

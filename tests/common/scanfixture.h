@@ -117,22 +117,17 @@ inline CORE::TVXFileCell patternCell(quint32 column, quint32 row)
     return cell;
 }
 
-// Angle range of the test scans: the full circle, and −π/4 to +π/4 vertically.
-constexpr double testHorizontalMin = 0.0;
-constexpr double testHorizontalMax = 2 * M_PI;
-constexpr double testVerticalMin = -M_PI / 4;
-constexpr double testVerticalMax = M_PI / 4;
-
-// A test grid with the test angle range and the channels of `channels` (parameters 0, 8, 24).
+// A test grid over the full circle and −π/4 to +π/4 vertically, with the channels of `channels`
+// (parameters 0, 8, 24).
 inline void setGrid(CORE::TVXFileScanInfo& info, quint32 columns, quint32 rows, quint32 tileSize, int channels)
 {
     info.columns = columns;
     info.rows = rows;
     info.tileSize = tileSize;
-    info.horizontalMin = testHorizontalMin;
-    info.horizontalMax = testHorizontalMax;
-    info.verticalMin = testVerticalMin;
-    info.verticalMax = testVerticalMax;
+    info.horizontalMin = 0.0;
+    info.horizontalMax = 2 * M_PI;
+    info.verticalMin = -M_PI / 4;
+    info.verticalMax = M_PI / 4;
     info.channels.clear();
     if (channels & DistanceChannel)
         info.channels.push_back({CORE::TVXFileScanInfo::Distance, 0});

@@ -28,9 +28,6 @@ private Q_SLOTS:
             layer(s, 9, QStringLiteral("Pipes"));
             s << quint32(0x13FFFF);
         }) << true << QStringList{QStringLiteral("Walls"), QStringLiteral("Pipes")};
-        QTest::newRow("no layers") << streamBytes([&](QDataStream& s) {
-            s << quint32(0x130000) << quint32(0) << quint32(0x13FFFF);
-        }) << true << QStringList();
         QTest::newRow("wrong end tag keeps the defaults") << streamBytes([&](QDataStream& s) {
             s << quint32(0x130000) << quint32(1);
             layer(s, 7, QStringLiteral("Walls"));

@@ -30,15 +30,6 @@ class MetaInfoTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void textTags()
-    {
-        TVXFileMetaInfo info;
-        info.setText(0x140101, QStringLiteral("not a text")); // the date-time tag
-        QVERIFY(info.text(0x140101).isNull());
-        info.setText(0x140302, QStringLiteral("eleven"));
-        QCOMPARE(info.text(0x140302), QStringLiteral("eleven"));
-    }
-
     void read_data()
     {
         QTest::addColumn<MetaRow>("row");

@@ -108,38 +108,6 @@ private Q_SLOTS:
             QVERIFY(info.flag);
         }
     }
-
-    void removeObjects_data()
-    {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<bool>("removed");
-        QTest::addColumn<QString>("left");
-
-        QTest::newRow("middle run") << 1 << 2 << true << QStringLiteral("ad");
-        QTest::newRow("count 0") << 1 << 0 << false << QStringLiteral("abcd");
-        QTest::newRow("run past the end") << 3 << 2 << false << QStringLiteral("abcd");
-        QTest::newRow("negative index") << -1 << 1 << false << QStringLiteral("abcd");
-    }
-
-    void removeObjects()
-    {
-        QFETCH(int, index);
-        QFETCH(int, count);
-        QFETCH(bool, removed);
-        QFETCH(QString, left);
-
-        TVXFileReferenceInfo info;
-        for (const char* name : {"a", "b", "c", "d"})
-            info.appendObject(std::make_shared<TVXSReferencePoint>(QLatin1String(name), TVXSReferencePoint::Values{}));
-        QCOMPARE(info.removeObjects(index, count), removed);
-        QString names;
-        for (int i = 0; i < info.objectCount(); ++i)
-            names += info.object(i)->name();
-        QCOMPARE(names, left);
-        QVERIFY(!info.object(info.objectCount()));
-        QVERIFY(!info.object(-1));
-    }
 };
 
 TVX_TEST(ReferenceInfoTest)

@@ -46,7 +46,6 @@ private Q_SLOTS:
         QTest::addColumn<OffsetRow>("row");
         // 10 × 6 cells in tiles of 4: tile columns of width 4, 4, 2 and tile rows of height 4, 2.
         const OffsetRow rows[] = {
-            {"first cell", 0, 0, 10, 6, 4, 5, 12},
             // Column by column inside a tile: (0, 1) is the second record, (1, 0) the fifth.
             {"next column", 1, 0, 10, 6, 4, 5, 12 + 4 * 5},
             // Tile row 1 of strip 0 starts after the 4 × 4 records of tile (0, 0): 12 + 80 = 92; it is
@@ -58,8 +57,6 @@ private Q_SLOTS:
             // With 9-byte records strip 2 starts at 12 + 2·4·6·9 = 444 and tile (2, 1) after the 2 × 4
             // records of tile (2, 0): 444 + 72 = 516; (9, 5) is record 1 × 2 + 1 = 3 in it: 516 + 27.
             {"narrow last corner, 9-byte records", 9, 5, 10, 6, 4, 9, 543},
-            // Fewer columns than one tile: the only tile column is the remainder (3 wide).
-            {"grid narrower than a tile", 2, 1, 3, 2, 64, 5, 12 + (2 * 2 + 1) * 5},
             // 70000 × 70000, tiles of 64, 9 bytes: the strip product 1093·9·70000·64 = 44 069 760 000
             // wraps to 44 069 760 000 − 10·2³² = 1 120 087 040; the last strip is 48 wide (70000 − 1093·64),
             // and (69999, 0) is record 47 × 64 in it: 12 + 1 120 087 040 + 3008·9.
@@ -76,28 +73,6 @@ private Q_SLOTS:
                  row.offset);
     }
 
-    void tileExtents_data()
-    {
-        QTest::addColumn<quint32>("cells");
-        QTest::addColumn<quint32>("count");
-        QTest::addColumn<quint32>("lastExtent");
-        // Tiles of 64.
-        QTest::newRow("multiple of the tile size") << 128u << 2u << 64u;
-        QTest::newRow("remainder") << 130u << 3u << 2u;
-        QTest::newRow("fewer cells than a tile") << 10u << 1u << 10u;
-    }
-
-    void tileExtents()
-    {
-        QFETCH(quint32, cells);
-        QFETCH(quint32, count);
-        QFETCH(quint32, lastExtent);
-        QCOMPARE(tileCount(cells, 64), count);
-        QCOMPARE(tileExtent(count - 1, cells, 64), lastExtent);
-        if (count > 1)
-            QCOMPARE(tileExtent(0, cells, 64), 64u);
-    }
-
     void pointOfCell_data()
     {
         QTest::addColumn<PointRow>("row");
@@ -105,18 +80,13 @@ private Q_SLOTS:
         const double s = std::sqrt(0.5);
         // halfDiag = 0.5·sqrt(2)·π/4 = π·sqrt(2)/8, the angle of an offset of ±127.
         const double h = M_PI / 2 + M_PI * std::sqrt(2.0) / 8;
-        const double v = -M_PI * std::sqrt(2.0) / 8;
         const PointRow rows[] = {
-            // (0, 0): h = 0, v = (3 − 0 − 1)·π/4 − π/4 = π/4: x = cos 0·2·cos 45° = 2s, y = 0, z = 2s.
-            {"top left", 0, 0, 0, 0, {2 * s, 0.0, 2 * s}},
             // (2, 1): h = π/2, v = 0: x = 0, y = sin(π/2)·(−2)·1 = −2, z = 0.
             {"centre, y negative", 2, 1, 0, 0, {0.0, -2.0, 0.0}},
             // (4, 2): h = π, v = −π/4: x = −2s, y = 0, z = −2s.
             {"bottom right", 4, 2, 0, 0, {-2 * s, 0.0, -2 * s}},
             // (2, 1) with dx 127: h = π/2 + π√2/8, v = 0: x = 2·cos h, y = −2·sin h.
             {"full sub-cell offset", 2, 1, 127, 0, {2 * std::cos(h), -2 * std::sin(h), 0.0}},
-            // dy = −127 lowers v by the same: z = 2·sin(−π√2/8), x = 2·cos(π√2/8)·cos(π/2) ≈ 0.
-            {"negative vertical offset", 2, 1, 0, -127, {0.0, -2 * std::cos(v), 2 * std::sin(v)}},
         };
         for (const PointRow& row : rows)
             QTest::newRow(row.name) << row;
@@ -139,22 +109,16 @@ private Q_SLOTS:
             return Vector3d(std::cos(h) * std::cos(v), -std::sin(h) * std::cos(v), std::sin(v));
         };
         const CellRow rows[] = {
-            {"station", {0, 0, 0}, M_PI, -1, -1},
             // |p|² = 2.5e-9 < 1e-8.
             {"closer than 1e-4 m", {5e-5, 0, 0}, M_PI, -1, -1},
             // (1e-4, 0, 0): |p|² = 1e-8 is not below the limit. h = 0, v = 0:
             // column = round(0) = 0; row = 5 − round(0.5·5) = 5 − 3 = 2 (round half away from zero).
             {"just far enough", {1e-4, 0, 0}, M_PI, 0, 2},
-            // Forward, column 4 of 11 lies at h = 4·π/10 = 0.4π; back: 0.4·11 = 4.4 → 4. Row 1 lies at
-            // v = 3·π/8 − π/4 = π/8; back: (3π/8)/(π/2)·5 = 3.75 → 4, row = 5 − 4 = 1.
-            {"round trip that holds", direction(0.4 * M_PI, M_PI / 8), M_PI, 4, 1},
             // Column 8 lies at h = 0.8π; back: 0.8·11 = 8.8 → 9, not 8. Row 3 lies at v = −π/8;
             // back: (π/8)/(π/2)·5 = 1.25 → 1, row = 5 − 1 = 4, not 3. The scaling by columns and rows.
             {"asymmetry of the inverse", direction(0.8 * M_PI, -M_PI / 8), M_PI, 9, 4},
             // y > 0: h = 2π − acos(0) = 3π/2; over [0, 2π] with 11 columns: 0.75·11 = 8.25 → 8.
             {"positive y, second half turn", {0, 1, 0}, 2 * M_PI, 8, 2},
-            // Straight up: ρ = 0 gives h = 0; v = π/2: (π/2 + π/4)/(π/2)·5 = 7.5 → 8, row 5 − 8 = −3.
-            {"zenith, above the grid", {0, 0, 3}, M_PI, 0, -3},
             // An empty horizontal range has no cells: the quotient is infinite.
             {"empty angle range", {1, -1, 0}, 0.0, -1, -1},
         };

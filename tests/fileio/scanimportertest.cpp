@@ -1,4 +1,5 @@
 #include "scanexport.h"
+#include "testfiles.h"
 #include "testregistry.h"
 
 #include "fileio/e57reader.h"
@@ -124,14 +125,15 @@ private Q_SLOTS:
         QTest::addColumn<int>("coordinates");
         QTest::addColumn<bool>("indexes");
         QTest::addColumn<quint64>("pageSize");
+        QTest::addColumn<bool>("otherPackets");
         const int scaled = E57Options::CartesianScaled;
-        QTest::newRow("PTX") << int(Format::Ptx) << false << false << 0 << true << quint64(1024);
-        QTest::newRow("PTX, columns and rows the other way") << int(Format::Ptx) << true << true << 0 << true << quint64(1024);
-        QTest::newRow("E57 scaled integers") << int(Format::E57) << false << false << scaled << true << quint64(1024);
-        QTest::newRow("E57 doubles, mirrored") << int(Format::E57) << true << true << int(E57Options::CartesianDouble) << true << quint64(1024);
-        QTest::newRow("E57 single floats, small pages") << int(Format::E57) << false << true << int(E57Options::CartesianSingle) << true << quint64(64);
-        QTest::newRow("E57 spherical") << int(Format::E57) << false << false << int(E57Options::Spherical) << true << quint64(1024);
-        QTest::newRow("E57 without grid") << int(Format::E57) << false << false << scaled << false << quint64(1024);
+        QTest::newRow("PTX") << int(Format::Ptx) << false << false << 0 << true << quint64(1024) << false;
+        QTest::newRow("PTX, columns and rows the other way") << int(Format::Ptx) << true << true << 0 << true << quint64(1024) << false;
+        QTest::newRow("E57 scaled integers") << int(Format::E57) << false << false << scaled << true << quint64(1024) << false;
+        QTest::newRow("E57 doubles, mirrored") << int(Format::E57) << true << true << int(E57Options::CartesianDouble) << true << quint64(1024) << false;
+        QTest::newRow("E57 single floats, small pages") << int(Format::E57) << false << true << int(E57Options::CartesianSingle) << true << quint64(64) << false;
+        QTest::newRow("E57 spherical, index and empty packets") << int(Format::E57) << false << false << int(E57Options::Spherical) << true << quint64(1024) << true;
+        QTest::newRow("E57 without grid") << int(Format::E57) << false << false << scaled << false << quint64(1024) << false;
     }
     void roundTrip()
     {
@@ -141,7 +143,9 @@ private Q_SLOTS:
         QFETCH(int, coordinates);
         QFETCH(bool, indexes);
         QFETCH(quint64, pageSize);
+        QFETCH(bool, otherPackets);
         E57Options options;
+        options.otherPackets = otherPackets;
         options.coordinates = E57Options::Coordinates(coordinates);
         options.indexes = indexes;
         options.pageSize = pageSize;
@@ -199,6 +203,35 @@ private Q_SLOTS:
         }
     }
 
+    // A scan large enough that only some of its points are looked at before it is written strip by
+    // strip (E57 in file order) or read by strips of columns (PTX) still comes back cell for cell.
+    void largeScan_data()
+    {
+        QTest::addColumn<int>("format");
+        QTest::newRow("PTX") << int(Format::Ptx);
+        QTest::newRow("E57") << int(Format::E57);
+    }
+    void largeScan()
+    {
+        QFETCH(int, format);
+        const QString source = m_dir.filePath(QStringLiteral("large-grid.tvx"));
+        if (!QFile::exists(source))
+            QVERIFY(writeSourceScan(source, 1030, 520, 11, pose)); // 130 batches of 4096 points
+        const auto scans = readScans(Format(format), exported(Format(format), {exportOf(source)}, {}));
+        const QString out = m_dir.filePath(QStringLiteral("large%1.tvx").arg(format));
+        QVERIFY(ScanImporter::write(*scans[0], out, {}).gridKept);
+        const ReadScan original = readBack(source);
+        const ReadScan imported = readBack(out);
+        QCOMPARE(imported.cells.size(), original.cells.size());
+        for (std::size_t i = 0; i < original.cells.size(); ++i) {
+            const Cell& a = imported.cells[i];
+            const Cell& b = original.cells[i];
+            const double tolerance = 0.001 + b.distance * imported.halfDiagonal / 127;
+            if (std::abs(a.distance - b.distance) > 0.0006 || (a.point - b.point).length() > tolerance)
+                QFAIL(qPrintable(QStringLiteral("cell %1: %2 m off").arg(i).arg((a.point - b.point).length())));
+        }
+    }
+
     // Several scans in one file become several scans, each with its own pose and size.
     void severalScans_data()
     {
@@ -225,6 +258,35 @@ private Q_SLOTS:
         QCOMPARE(imported.cells.size(), source.cells.size());
         for (std::size_t i = 0; i < source.cells.size(); ++i)
             QVERIFY(std::abs(imported.cells[i].distance - source.cells[i].distance) < 0.0006);
+    }
+
+    // The scan's own spherical image becomes its panorama: kept byte for byte when it has one
+    // pixel per cell, else scaled to the grid.
+    void ownPanorama_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("one pixel per cell") << QSize(20, 12);
+        QTest::newRow("larger") << QSize(64, 30);
+    }
+    void ownPanorama()
+    {
+        QFETCH(QSize, size);
+        const QString source = m_dir.filePath(QStringLiteral("small.tvx"));
+        QVERIFY(writeSourceScan(source, 20, 12));
+        QImage image(size, QImage::Format_RGB888);
+        image.fill(QColor(200, 30, 90));
+        QBuffer jpeg;
+        jpeg.open(QIODevice::WriteOnly);
+        QVERIFY(image.save(&jpeg, "JPG"));
+        ExportScan scan = exportOf(source);
+        scan.panorama = jpeg.data();
+        const auto scans = readScans(Format::E57, exported(Format::E57, {scan}, {}));
+        const QString out = m_dir.filePath(QStringLiteral("own%1.tvx").arg(size.width()));
+        ScanImporter::write(*scans[0], out, {});
+        const QString panorama = ScanImporter::panoramaPathFor(out);
+        QCOMPARE(QImage(panorama).size(), QSize(20, 12));
+        QCOMPARE(readBytes(panorama) == jpeg.data(), size == QSize(20, 12));
+        QVERIFY(qAbs(QImage(panorama).pixelColor(10, 6).red() - 200) < 8); // its colour, not the cells'
     }
 
     // Cancelling leaves no file behind, whether it comes while the points are looked at or in the

@@ -88,8 +88,6 @@ private Q_SLOTS:
                           "text3d [T] at 0,6,0", "measurement3d 1 4,0,0 5,0,0"};
         QTest::newRow("kind 5 fails the section") << section(1, [](QDataStream& s) { s << quint32(5); }) << false
                                                   << QStringList() << QStringList();
-        QTest::newRow("unknown kind 21") << section(1, [](QDataStream& s) { s << quint32(21); }) << false << QStringList()
-                                         << QStringList();
         QTest::newRow("wrong end tag") << streamBytes([](QDataStream& s) {
             s << quint32(0x160000) << quint32(0) << quint32(0x15FFFF);
         }) << false << QStringList() << QStringList();

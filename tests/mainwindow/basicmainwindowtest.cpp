@@ -2,11 +2,11 @@
 
 #include "windowfixtures.h"
 
+#include "annotations/sceneitemstablemodel.h"
 #include "glviews/createmeasurmenttemoperator.h"
 #include "glviews/scanviewoperatormanager.h"
 #include "mainwindow/application.h"
 #include "mainwindow/basicmainwindow.h"
-#include "annotations/sceneitemstablemodel.h"
 #include "mainwindow/logtablemodel.h"
 #include "mainwindow/mdicontextmenu.h"
 #include "mainwindow/mdiplanarviewsubwindow.h"
@@ -21,7 +21,6 @@
 
 #include <QAction>
 #include <QDir>
-#include <QDockWidget>
 #include <QFile>
 #include <QGraphicsScene>
 #include <QImage>
@@ -32,23 +31,14 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QToolBar>
 
 #include <algorithm>
 #include <cmath>
-#include <deque>
-#include <functional>
 
 using namespace TVX::CORE;
 using namespace TVX::TEST;
 
 namespace {
-
-QByteArray fileBytes(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 template<typename Item>
 QList<Item*> itemsOf(const GraphicsView& view)
@@ -138,12 +128,9 @@ private Q_SLOTS:
         QTest::addColumn<int>("measurementKind"); // -1: not a dimensioning
         QTest::newRow("pick") << "Pick 3D Coordinates" << 1u << 0 << 0 << -1;
         QTest::newRow("edit") << "Edit Elements" << 4102u << 2 << 0 << -1;
-        QTest::newRow("zoom out") << "Zoom Out" << 17u << 3 << 1 << -1;
         QTest::newRow("rectangle") << "Add Rectangle" << 36u << 1 << 0 << -1;
-        QTest::newRow("text") << "Add Text" << 40u << 1 << 3 << -1;
         // The dimensioning integers: 0 3D, 1 Delta Z, 2 XY.
         QTest::newRow("3D distance") << "3D Distance" << 38u << 1 << 5 << 0;
-        QTest::newRow("distance in XY") << "Distance in XY" << 38u << 1 << 7 << 2;
         QTest::newRow("delta Z") << "Delta Z" << 38u << 1 << 6 << 1;
     }
 
@@ -186,21 +173,6 @@ private Q_SLOTS:
         window->initPlaceDimensioningMode(3);
         QCOMPARE(modes.count(), 0);
         QCOMPARE(Application::instance().operatorManager().currentMode(), 38u);
-    }
-
-    void docksAndToolBars()
-    {
-        QStringList bars;
-        for (QToolBar* bar : window->findChildren<QToolBar*>())
-            bars << bar->objectName();
-        QCOMPARE(bars, QStringList({"toolbar_file", "toolbar_zoom", "toolbar_2ddraw", "measurement_tools",
-                                    "toolsbar_point_based_operations"}));
-        auto* pointInfo = window->findChild<QDockWidget*>(QStringLiteral("dock_pointinfo"));
-        auto* report = window->findChild<QDockWidget*>(QStringLiteral("dock_report"));
-        QVERIFY(pointInfo && report);
-        QCOMPARE(window->tabifiedDockWidgets(pointInfo), QList<QDockWidget*>{report});
-        QCOMPARE(window->dockWidgetArea(window->findChild<QDockWidget*>(QStringLiteral("dock_lens"))),
-                 Qt::LeftDockWidgetArea);
     }
 
     // Ask before discarding changes: what is shown, and whether the caller goes on.
@@ -467,7 +439,7 @@ private Q_SLOTS:
         QVERIFY(window->saveProject());
         QVERIFY(!project.hasUnsavedChanges());
         const QString annotationPath = dir.filePath(QStringLiteral("a-viewer.xml"));
-        const QByteArray saved = fileBytes(annotationPath);
+        const QByteArray saved = readBytes(annotationPath);
         QVERIFY(saved.contains("Pump 3"));
         QList<int> types;
         for (QGraphicsItem* item : user.view->scene()->items())
@@ -487,7 +459,7 @@ private Q_SLOTS:
         QCOMPARE(project.sceneItems(0)->rowCount(), 4);
         project.setScanModified(0, true);
         QVERIFY(window->saveProject());
-        QCOMPARE(fileBytes(annotationPath), saved);
+        QCOMPARE(readBytes(annotationPath), saved);
     }
 
     // A damaged annotation file is reported when the view opens, and the next save keeps it

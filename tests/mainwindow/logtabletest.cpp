@@ -4,7 +4,6 @@
 #include "mainwindow/logtableview.h"
 
 #include <QSignalSpy>
-#include <QStandardItemModel>
 #include <QTest>
 
 using namespace TVX::CORE;
@@ -14,19 +13,6 @@ class LogTableTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void viewShowsTheFirstThreeColumns()
-    {
-        LogTableView view;
-        QStandardItemModel five(2, 5);
-        view.setModel(&five);
-        QCOMPARE(QList<bool>({view.isColumnHidden(2), view.isColumnHidden(3), view.isColumnHidden(4)}),
-                 QList<bool>({false, true, true}));
-        // A narrower model must show its columns again.
-        QStandardItemModel three(2, 3);
-        view.setModel(&three);
-        QVERIFY(!view.isColumnHidden(0) && !view.isColumnHidden(1) && !view.isColumnHidden(2));
-    }
-
     // The type number is not shown: every row reads "Type". No gesture starts an editor.
     void entriesAreShownReadOnly()
     {

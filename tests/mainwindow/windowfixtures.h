@@ -42,7 +42,8 @@ public:
     void information(const QString& title, const QString& text) override { shown << title + QStringLiteral(": ") + text; }
     void warning(const QString& title, const QString& text) override { shown << title + QStringLiteral(": ") + text; }
     QString openFileName(const QString&, const QString&, const QString&) override { return fileName; }
-    QStringList openFileNames(const QString&, const QString&, const QString&) override { return {}; }
+    QStringList fileNames; // the answer of the file dialog for several files
+    QStringList openFileNames(const QString&, const QString&, const QString&) override { return fileNames; }
     bool textLine(const QString& title, const QString&, QString& text) override
     {
         shown << title;

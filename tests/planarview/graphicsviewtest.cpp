@@ -108,18 +108,6 @@ private Q_SLOTS:
         QCOMPARE(enabled.count(), announced);
     }
 
-    void wheelZoomHasNoLimits()
-    {
-        Fixture f;
-        for (int i = 0; i < 40; ++i) {
-            QWheelEvent wheel(QPointF(f.at(100, 50)), f.view.viewport()->mapToGlobal(QPointF(f.at(100, 50))), QPoint(),
-                              QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-            QCoreApplication::sendEvent(f.view.viewport(), &wheel);
-        }
-        // 40 notches out: 4 · 1.25^(−40·120/240) = 4 · 1.25^−20.
-        QVERIFY(std::abs(f.view.transform().m11() - 4 * std::pow(1.25, -20)) < 1e-9);
-    }
-
     void zoomModeSteps()
     {
         Fixture f;

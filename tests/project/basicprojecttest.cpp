@@ -6,7 +6,6 @@
 #include "fileio/tvxfile.h"
 #include "project/basicproject.h"
 #include "project/filetreemodel.h"
-#include "project/referencepointstablemodel.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -135,7 +134,6 @@ private Q_SLOTS:
             << QByteArray("user:zora\nuser:anna") << QStringList{QStringLiteral("zora"), QStringLiteral("anna")};
         QTest::newRow("other letter case and other lines ignored")
             << QByteArray("User:carl\nhost:pc7\n\nuser:dora\nUSER:emil\n") << QStringList{QStringLiteral("dora")};
-        QTest::newRow("empty lock file") << QByteArray("") << QStringList();
         // A directory where the lock file should be: it exists but cannot be read.
         QTest::newRow("unreadable lock file") << QByteArray() << QStringList();
         QTest::newRow("name cut to 1024 characters")
@@ -305,12 +303,8 @@ private Q_SLOTS:
         QTest::addColumn<QList<QByteArray>>("listed");
         QTest::addColumn<QList<int>>("nodeIds");
         QTest::addColumn<QString>("tree");
-        QTest::newRow("consistent") << QList<QByteArray>{"scans/a.tvx", "scans/b.tvx"} << QList<int>{1, 0}
-                                    << QStringLiteral("scans+(n1#1+ n0#0+)");
         QTest::newRow("node beyond the list") << QList<QByteArray>{"scans/a.tvx"} << QList<int>{0, 7}
                                               << QStringLiteral("scans+(n0#0+)");
-        QTest::newRow("node of an empty entry") << QList<QByteArray>{"", "scans/b.tvx"} << QList<int>{0, 1}
-                                                << QStringLiteral("scans+(n1#1+)");
         QTest::newRow("two nodes of one scan") << QList<QByteArray>{"scans/a.tvx"} << QList<int>{0, 0}
                                                << QStringLiteral("scans+(n0#0+)");
         // A listed scan without a node gets one, named after its file.
@@ -347,10 +341,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("removedId"); // removed through the tree model first; -1 for none
         QTest::addColumn<quint32>("expected");
         QTest::newRow("empty project") << QList<QByteArray>{} << QList<int>{} << -1 << 0u;
-        QTest::newRow("after two scans") << QList<QByteArray>{"scans/a.tvx", "scans/b.tvx"} << QList<int>{0, 1}
-                                         << -1 << 2u;
-        QTest::newRow("gap of an empty entry") << QList<QByteArray>{"scans/a.tvx", "", "scans/c.tvx"}
-                                               << QList<int>{0, 2} << -1 << 1u;
         QTest::newRow("gap of a removed scan") << QList<QByteArray>{"scans/a.tvx", "scans/b.tvx", "scans/c.tvx"}
                                                << QList<int>{0, 1, 2} << 1 << 1u;
         // A scan whose file is missing keeps its identifier.
@@ -556,29 +546,6 @@ private Q_SLOTS:
         QCOMPARE(unsaved.at(1).at(0).toBool(), false);
     }
 
-    // Colour, grey and cells outside the grid are the lens picture's cases; here the point.
-    void cellSampleReadsThroughTiles()
-    {
-        QTemporaryDir dir;
-        QVERIFY(openWithOneScan(dir));
-        BasicProject& project = BasicProject::instance();
-        CellSample sample;
-        QVERIFY(!project.cellSample(0, 40, 0, sample));
-        QVERIFY(!project.cellSample(0, 3, -1, sample));
-        QVERIFY(!project.cellSample(1, 3, 1, sample));
-        QVERIFY(project.cellSample(0, 13, 17, sample));
-        // 40 by 30 cells over 0..2π and −π/4..π/4: h = c·2π/39, v = (30 − r − 1)·(π/2)/29 − π/4;
-        // the test cells have no sub-cell offsets.
-        const TVXFileCell cell = testCell(13, 17);
-        const double d = cell.distanceMm / 1000.0;
-        const double h = 13 * (2 * M_PI / 39);
-        const double v = (30 - 17 - 1) * (M_PI / 2 / 29) - M_PI / 4;
-        QCOMPARE(sample.distance, d);
-        QVERIFY(sample.valid && sample.hasColour);
-        QVERIFY((sample.point - Vector3d(std::cos(h) * d * std::cos(v), -std::sin(h) * d * std::cos(v), std::sin(v) * d)).length() < 1e-9);
-        QCOMPARE(QColor(sample.red, sample.green, sample.blue), QColor(cell.red, cell.green, cell.blue));
-    }
-
     void lensPicture_data()
     {
         QTest::addColumn<bool>("colour");
@@ -588,9 +555,6 @@ private Q_SLOTS:
         // At a corner the grid fills one quadrant: 26 × 26 cells including the centre's row and column.
         QTest::newRow("top left corner") << true << true << QPoint(0, 0) << 26 * 26;
         QTest::newRow("top right corner, grey") << false << true << QPoint(39, 0) << 26 * 26;
-        // The whole 40 × 30 grid lies within 25 cells of (20, 15).
-        QTest::newRow("centre of the grid") << true << true << QPoint(20, 15) << 40 * 30;
-        QTest::newRow("neither channel") << false << false << QPoint(5, 5) << 0;
     }
 
     void lensPicture()
@@ -627,39 +591,6 @@ private Q_SLOTS:
         QImage untouched = image;
         QVERIFY(!project.paintLensPicture(1, 0, 0, 25, untouched));
         QCOMPARE(untouched, image);
-    }
-
-    void referencePointsAreListed()
-    {
-        QTemporaryDir dir;
-        QVERIFY(openWithOneScan(dir));
-        BasicProject& project = BasicProject::instance();
-        const auto model = project.referencePoints(0);
-        QVERIFY(model);
-        // The test scans hold one sphere "S1" at (1.25, −2.5, 0.75) with radius 0.0725.
-        QCOMPARE(model->rowCount(), 1);
-        QCOMPARE(model->index(0, ReferencePointsTableModel::NameColumn).data().toString(), QStringLiteral("S1"));
-        QCOMPARE(model->index(0, ReferencePointsTableModel::YColumn).data().toString(), QStringLiteral("-2.500"));
-        QCOMPARE(model->index(0, ReferencePointsTableModel::RadiusColumn).data(ReferencePointsTableModel::ValueRole)
-                     .toDouble(),
-                 0.0725);
-        QVERIFY(!project.referencePoints(1));
-    }
-
-    // Open views show in the tree but are no content of the project file.
-    void viewFlagsReachTheTree()
-    {
-        QTemporaryDir dir;
-        QVERIFY(openProject(makeTypicalProject(dir)).ok);
-        BasicProject& project = BasicProject::instance();
-        QSignalSpy changed(project.treeModel().get(), &QAbstractItemModel::dataChanged);
-        project.setViewOpen(1, BasicProject::SphericalView, true);
-        project.setViewOpen(1, BasicProject::SphericalView, true); // no change, no signal
-        QVERIFY(project.isViewOpen(1, BasicProject::SphericalView));
-        QVERIFY(!project.isViewOpen(1, BasicProject::PlanarView));
-        QCOMPARE(changed.count(), 1);
-        QCOMPARE(changed.at(0).at(0).value<QModelIndex>(), project.treeModel()->indexOfScan(1).siblingAtColumn(1));
-        QVERIFY(!project.hasUnsavedChanges());
     }
 };
 

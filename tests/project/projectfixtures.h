@@ -95,6 +95,28 @@ inline QByteArray build(const ProjectFileFields& f)
     return bytes;
 }
 
+// The tree of the tree model and view tests: scans( A( a1#10 ) B( B1( b#11 ) ) s#12 -t#13 ), held
+// by a nameless holder.
+inline CORE::ProjectItemScanGroupPtr sampleHolder()
+{
+    const auto holder = CORE::ProjectItemScanGroup::create(QString());
+    const auto root = CORE::ProjectItemScanGroup::create(QStringLiteral("scans"));
+    holder->appendFolder(root);
+    const auto a = CORE::ProjectItemScanGroup::create(QStringLiteral("A"));
+    const auto b = CORE::ProjectItemScanGroup::create(QStringLiteral("B"));
+    const auto b1 = CORE::ProjectItemScanGroup::create(QStringLiteral("B1"));
+    root->appendScan(CORE::ProjectItemScan::create(QStringLiteral("s"), 12));
+    const auto t = CORE::ProjectItemScan::create(QStringLiteral("t"), 13);
+    t->setEnabled(false);
+    root->appendScan(t);
+    root->appendFolder(a);
+    root->appendFolder(b);
+    a->appendScan(CORE::ProjectItemScan::create(QStringLiteral("a1"), 10));
+    b->appendFolder(b1);
+    b1->appendScan(CORE::ProjectItemScan::create(QStringLiteral("b"), 11));
+    return holder;
+}
+
 // The tree as text: a folder is name[flag](children), a scan name#id[flag]; flag + or -.
 inline QString describe(const CORE::ProjectItemPtr& item)
 {

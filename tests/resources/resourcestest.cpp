@@ -63,13 +63,6 @@ private Q_SLOTS:
         QVERIFY(qAlpha(image.pixel(5, 15)) > 0);
         QCOMPARE(qAlpha(image.pixel(2, 2)), 0);
     }
-
-    void splashIsWideEnoughForItsMessage()
-    {
-        const QImage splash(QStringLiteral(":/icons/viewer/splash_viewer.png"));
-        QVERIFY(splash.width() >= 400);
-        QVERIFY(splash.width() > splash.height());
-    }
 };
 
 TVX_TEST(ResourcesTest)

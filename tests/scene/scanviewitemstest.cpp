@@ -50,7 +50,6 @@ private Q_SLOTS:
         const Vector3d skewed(1, 0.0, 0.1);
         // Only the quad's second triangle, reaching to p0 + p2 - p1, covers this one.
         QTest::newRow("near the derived fourth corner") << square << ahead(0.09, 0.09) << true;
-        QTest::newRow("beyond an edge") << square << ahead(0.11, 0.0) << false;
         QTest::newRow("parallelogram, inside its slanted part") << skewed << ahead(0.15, 0.05) << true;
         QTest::newRow("parallelogram, cut-off corner") << skewed << ahead(-0.09, 0.09) << false;
     }
@@ -76,7 +75,6 @@ private Q_SLOTS:
 
         const Vector3d square(1, 0, 0.1), slanted(1, 0.1, 0.1);
         QTest::newRow("centre") << square << 0.0 << 0.0 << true;
-        QTest::newRow("just beyond the first axis") << square << 1.01 << 0.0 << false;
         QTest::newRow("slanted axes, outside") << slanted << 0.8 << 0.8 << false;
     }
 
@@ -106,7 +104,6 @@ private Q_SLOTS:
         QTest::addColumn<bool>("hit");
 
         QTest::newRow("on the anchor") << Vector3d(0, 0, 1) << 0.0 << true;
-        QTest::newRow("within the pick angle") << Vector3d(0.3, -0.4, 0.2) << 0.8 << true;
         QTest::newRow("beyond the pick angle") << Vector3d(0.3, -0.4, 0.2) << 1.2 << false;
         QTest::newRow("opposite side") << Vector3d(1, 0, 0) << M_PI / itemPickAngle << false;
     }
@@ -137,7 +134,6 @@ private Q_SLOTS:
         QTest::newRow("above the arc beyond the pick angle") << x << y << tilted(middle, z, 1.2 * itemPickAngle) << false;
         // On the same great circle but off the shorter arc between the ends.
         QTest::newRow("on the great circle beyond the second end") << x << y << Vector3d(-1, 1, 0) << false;
-        QTest::newRow("ends not normalised") << x * 4.0 << y * 0.5 << tilted(middle, z, 0.8 * itemPickAngle) << true;
         QTest::newRow("zero end") << Vector3d() << y << y << false;
     }
 

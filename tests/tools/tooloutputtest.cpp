@@ -101,7 +101,6 @@ private Q_SLOTS:
         // 10 × 7 pattern cells in tiles of 4.
         const PointRow rows[] = {
             {"all channels, last tile strip", AllChannels, 9, 2},
-            {"distance only, last tile row", DistanceChannel, 3, 6},
             {"no return", AllChannels, 2, 4}, // (3·2 + 4) mod 7 = 3
         };
         for (const PointRow& row : rows)
@@ -252,48 +251,6 @@ private Q_SLOTS:
         QCOMPARE(jsonShape(tree), QStringLiteral("children:a enabled:b name:s type:s"));
         QCOMPARE(tree["children"][1].toObject(),
                  QJsonObject({{"type", "scan"}, {"name", QStringLiteral("süd")}, {"id", 1}, {"enabled", true}}));
-    }
-
-    // The scans as the project class opens them: without the lock, even one that somebody else
-    // holds, and each scan with what its header gives or why it cannot be read.
-    void projectScans()
-    {
-        QTemporaryDir dir;
-        QVERIFY(writeBytes(dir.filePath(QStringLiteral("site.tvxprj")), build(typicalFields())));
-        QVERIFY(QDir(dir.path()).mkdir(QStringLiteral("scans")));
-        TestScan north;
-        north.transformation = {0, -1, 0, 4.5, 1, 0, 0, -2, 0, 0, 1, 1.25, 0, 0, 0, 1};
-        QVERIFY(writeTestScan(dir.filePath(QStringLiteral("scans/north.tvx")), north));
-        QVERIFY(writeBytes(dir.filePath(QStringLiteral("scans/süd.tvx")), QByteArray(64, 'x')));
-        QVERIFY(writeBytes(dir.filePath(QStringLiteral("scans/süd.tvxsd")), QByteArray(12, '\0')));
-        const QString lock = dir.filePath(QStringLiteral("tvxlock~"));
-        QVERIFY(writeBytes(lock, "user:somebody else\n"));
-
-        const ToolRun run =
-            runTool({QStringLiteral("project"), QStringLiteral("site.tvxprj"), QStringLiteral("--scans")}, dir.path());
-        QCOMPARE(run.exitCode, 0);
-        QCOMPARE(readBytes(lock), QByteArray("user:somebody else\n"));
-        const QJsonObject json = run.json();
-        QCOMPARE(jsonShape(json), QStringLiteral("coordinateSystems:a currentCoordinateSystem:n formatVersion:n "
-                                                 "origin:a path:s scanHeaders:a scans:a tree:o writerVersion:a"));
-        const QJsonArray headers = json["scanHeaders"].toArray();
-        QCOMPARE(headers.size(), 3);
-        QCOMPARE(headers[0].toObject(),
-                 QJsonObject({{"id", 0},
-                              {"path", "scans/north.tvx"},
-                              {"readable", true},
-                              {"columns", 40},
-                              {"rows", 30},
-                              {"rotation", QJsonArray{0, -1, 0, 1, 0, 0, 0, 0, 1}},
-                              {"translation", QJsonArray{4.5, -2, 1.25}}}));
-        // Not a scan file, and a missing one: a reason each.
-        for (int i : {1, 2}) {
-            const QJsonObject header = headers[i].toObject();
-            QCOMPARE(jsonShape(header), QStringLiteral("id:n path:s readable:b reason:s"));
-            QCOMPARE(header["id"].toInt(), i);
-            QVERIFY(!header["readable"].toBool());
-            QVERIFY(!header["reason"].toString().isEmpty());
-        }
     }
 };
 

@@ -34,6 +34,8 @@ public:
     std::size_t pendingBytes() const { return m_bytes.size() - padding - m_bitPosition / 8; }
     // Decodes `count` values, at most available().
     void decode(double* out, std::size_t count);
+    // Passes over `count` values, at most available().
+    void skip(std::size_t count) { m_bitPosition += quint64(count) * quint64(m_bits); }
 
 private:
     static constexpr std::size_t padding = 8; // zero bytes after the data, for whole-word loads

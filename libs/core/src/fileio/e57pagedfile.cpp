@@ -15,17 +15,16 @@ namespace TVX::CORE {
 namespace {
 constexpr quint64 cacheBytes = 1 << 20;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("TVX::CORE::E57PagedFile", text);
-}
 } // namespace
 
 E57PagedFile::E57PagedFile(std::shared_ptr<QIODevice> device, const QString& fileName, quint64 pageSize)
     : m_device(std::move(device)), m_fileName(fileName), m_pageSize(pageSize), m_length(quint64(m_device->size()))
 {
     if (pageSize < smallestPage || pageSize > largestPage)
-        fail(tr("page size %1 is not between %2 and %3").arg(pageSize).arg(smallestPage).arg(largestPage));
+        fail(QCoreApplication::translate("TVX::CORE::E57PagedFile", "page size %1 is not between %2 and %3")
+                 .arg(pageSize)
+                 .arg(smallestPage)
+                 .arg(largestPage));
 }
 
 E57PagedFile::~E57PagedFile() = default;
@@ -41,18 +40,23 @@ const char* E57PagedFile::page(quint64 index)
         return m_cache.data() + (index - m_firstCached) * m_pageSize;
     const quint64 pages = m_length / m_pageSize;
     if (index >= pages)
-        fail(tr("page %1 lies past the end of the file (%2 pages)").arg(index).arg(pages));
+        fail(QCoreApplication::translate("TVX::CORE::E57PagedFile", "page %1 lies past the end of the file (%2 pages)")
+                 .arg(index)
+                 .arg(pages));
     const quint64 count = std::min(std::max<quint64>(1, cacheBytes / m_pageSize), pages - index);
     m_cache.resize(std::size_t(count * m_pageSize));
     m_cachedPages = 0;
     if (!m_device->seek(qint64(index * m_pageSize))
         || m_device->read(m_cache.data(), qint64(count * m_pageSize)) != qint64(count * m_pageSize))
-        fail(tr("cannot read page %1: %2").arg(index).arg(m_device->errorString()));
+        fail(QCoreApplication::translate("TVX::CORE::E57PagedFile", "cannot read page %1: %2")
+                 .arg(index)
+                 .arg(m_device->errorString()));
     for (quint64 i = 0; i < count; ++i) {
         const char* data = m_cache.data() + i * m_pageSize;
         const quint32 stored = qFromBigEndian<quint32>(data + m_pageSize - 4);
         if (crc32c(data, std::size_t(m_pageSize - 4)) != stored)
-            fail(tr("page %1: the checksum does not match").arg(index + i));
+            fail(QCoreApplication::translate("TVX::CORE::E57PagedFile", "page %1: the checksum does not match")
+                     .arg(index + i));
     }
     m_firstCached = index;
     m_cachedPages = count;

@@ -36,6 +36,15 @@ public:
     public:
         virtual ~Cursor() = default;
         virtual std::size_t read(ImportedPoint* points, std::size_t capacity) = 0;
+        // The same points with their grid positions only (hasReturn false, no coordinates), where
+        // a reader can pass over the rest faster than it decodes it.
+        virtual std::size_t readGridPositions(ImportedPoint* points, std::size_t capacity)
+        {
+            const std::size_t count = read(points, capacity);
+            for (std::size_t i = 0; i < count; ++i)
+                points[i].hasReturn = false;
+            return count;
+        }
     };
 
     virtual ~ImportedScan() = default;

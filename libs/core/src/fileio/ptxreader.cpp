@@ -19,10 +19,6 @@ namespace {
 constexpr qint64 bufferBytes = 4 << 20;
 constexpr qint64 longestLine = 1 << 16;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("TVX::CORE::PtxReader", text);
-}
 
 // Lines of a device through one buffer; knows each line's number and byte position.
 class LineSource
@@ -38,7 +34,7 @@ public:
     void seek(qint64 position, quint64 lineNumber)
     {
         if (!m_device.seek(position))
-            fail(tr("cannot seek to byte %1").arg(position));
+            fail(QCoreApplication::translate("TVX::CORE::PtxReader", "cannot seek to byte %1").arg(position));
         m_bufferStart = position;
         m_begin = m_end = 0;
         m_line = lineNumber - 1;
@@ -83,14 +79,15 @@ private:
     {
         const qint64 kept = m_end - m_begin;
         if (kept >= longestLine)
-            failAtLine(tr("line longer than %1 bytes").arg(longestLine));
+            failAtLine(
+                QCoreApplication::translate("TVX::CORE::PtxReader", "line longer than %1 bytes").arg(longestLine));
         std::memmove(m_buffer.data(), m_buffer.data() + m_begin, std::size_t(kept));
         m_bufferStart += m_begin;
         m_begin = 0;
         m_end = kept;
         const qint64 got = m_device.read(m_buffer.data() + kept, qint64(m_buffer.size()) - kept);
         if (got < 0)
-            fail(tr("cannot read: %1").arg(m_device.errorString()));
+            fail(QCoreApplication::translate("TVX::CORE::PtxReader", "cannot read: %1").arg(m_device.errorString()));
         m_end += got;
         m_eof = got == 0;
     }
@@ -132,7 +129,7 @@ int parseNumbers(const char* begin, const char* end, double* values, int capacit
 
 quint8 byteOf(double value)
 {
-    return quint8(std::clamp(std::lround(value), 0L, 255L));
+    return quint8(qRound(std::clamp(value, 0.0, 255.0)));
 }
 
 class PtxScan;
@@ -175,10 +172,10 @@ public:
 };
 
 PtxCursor::PtxCursor(const PtxScan& scan, quint32 firstColumn, quint32 columnCount)
-    : m_scan(scan),
-      m_lines(*scan.device, scan.fileName,
-              firstColumn < scan.columns ? scan.bytesOf(firstColumn, std::min(columnCount, scan.columns - firstColumn)) : 0),
-      m_firstColumn(firstColumn)
+    : m_scan(scan)
+    , m_lines(*scan.device, scan.fileName,
+          firstColumn < scan.columns ? scan.bytesOf(firstColumn, std::min(columnCount, scan.columns - firstColumn)) : 0)
+    , m_firstColumn(firstColumn)
 {
     if (firstColumn >= scan.columns || columnCount == 0)
         return;
@@ -196,12 +193,13 @@ std::size_t PtxCursor::read(ImportedPoint* points, std::size_t capacity)
     double values[7];
     for (; count < capacity && m_next < m_end; ++count, ++m_next) {
         if (!m_lines.next(begin, end))
-            m_lines.fail(tr("the file ends inside a scan"));
+            m_lines.fail(QCoreApplication::translate("TVX::CORE::PtxReader", "the file ends inside a scan"));
         if (parseNumbers(begin, end, values, 7) < expected)
-            m_lines.failAtLine(tr("expected %1 numbers").arg(expected));
+            m_lines.failAtLine(
+                QCoreApplication::translate("TVX::CORE::PtxReader", "expected %1 numbers").arg(expected));
         for (int i = 0; i < expected; ++i) {
             if (!std::isfinite(values[i]))
-                m_lines.failAtLine(tr("a number that is not finite"));
+                m_lines.failAtLine(QCoreApplication::translate("TVX::CORE::PtxReader", "a number that is not finite"));
         }
         ImportedPoint& point = points[count];
         point.x = values[0];
@@ -226,22 +224,26 @@ void headerLine(LineSource& lines, double* values, int count)
     const char* begin = nullptr;
     const char* end = nullptr;
     if (!lines.next(begin, end))
-        lines.fail(tr("the file ends inside a scan header"));
+        lines.fail(QCoreApplication::translate("TVX::CORE::PtxReader", "the file ends inside a scan header"));
     double extra[5];
     if (parseNumbers(begin, end, values, count) != count || parseNumbers(begin, end, extra, 5) != count)
-        lines.failAtLine(tr("a header line of %1 numbers expected").arg(count));
+        lines.failAtLine(
+            QCoreApplication::translate("TVX::CORE::PtxReader", "a header line of %1 numbers expected").arg(count));
     for (int i = 0; i < count; ++i) {
         if (!std::isfinite(values[i]))
-            lines.failAtLine(tr("a number that is not finite"));
+            lines.failAtLine(QCoreApplication::translate("TVX::CORE::PtxReader", "a number that is not finite"));
     }
 }
 
-quint32 headerCount(LineSource& lines, double limit, const char* what)
+quint32 headerCount(LineSource& lines, double limit, const QString& what)
 {
     double value = 0;
     headerLine(lines, &value, 1);
     if (value < 1 || value > limit || value != std::floor(value))
-        lines.failAtLine(tr("%1 %2 is not between 1 and %3").arg(tr(what)).arg(value).arg(limit));
+        lines.failAtLine(QCoreApplication::translate("TVX::CORE::PtxReader", "%1 %2 is not between 1 and %3")
+                             .arg(what)
+                             .arg(value)
+                             .arg(limit));
     return quint32(value);
 }
 
@@ -279,12 +281,13 @@ std::vector<std::shared_ptr<ImportedScan>> PtxReader::read(const std::shared_ptr
         auto scan = std::make_shared<PtxScan>();
         scan->device = device;
         scan->fileName = fileName;
-        scan->name = tr("Scan %1").arg(scans.size() + 1);
-        scan->columns = headerCount(lines, maximumColumns, "column count");
-        scan->rows = headerCount(lines, maximumRows, "row count");
+        scan->name = QCoreApplication::translate("TVX::CORE::PtxReader", "Scan %1").arg(scans.size() + 1);
+        scan->columns
+            = headerCount(lines, maximumColumns, QCoreApplication::translate("TVX::CORE::PtxReader", "column count"));
+        scan->rows = headerCount(lines, maximumRows, QCoreApplication::translate("TVX::CORE::PtxReader", "row count"));
         scan->pointCount = quint64(scan->columns) * scan->rows;
         if (scan->pointCount > maximumPoints)
-            lines.failAtLine(tr("%1 × %2 points are more than %3")
+            lines.failAtLine(QCoreApplication::translate("TVX::CORE::PtxReader", "%1 × %2 points are more than %3")
                                  .arg(scan->columns)
                                  .arg(scan->rows)
                                  .arg(maximumPoints));
@@ -305,7 +308,8 @@ std::vector<std::shared_ptr<ImportedScan>> PtxReader::read(const std::shared_ptr
         scan->columnStart.reserve(std::min<quint64>(scan->columns, quint64(device->size() / 8 + 1)));
         for (quint64 i = 0; i < scan->pointCount; ++i) {
             if (!lines.next(begin, end))
-                lines.fail(tr("the file ends at line %1, inside scan %2 of %3 × %4 points")
+                lines.fail(QCoreApplication::translate(
+                    "TVX::CORE::PtxReader", "the file ends at line %1, inside scan %2 of %3 × %4 points")
                                .arg(lines.lineNumber())
                                .arg(scans.size() + 1)
                                .arg(scan->columns)
@@ -318,7 +322,7 @@ std::vector<std::shared_ptr<ImportedScan>> PtxReader::read(const std::shared_ptr
                 double first[7];
                 const int found = parseNumbers(begin, end, first, 7);
                 if (found < 4)
-                    lines.failAtLine(tr("expected 4 or 7 numbers"));
+                    lines.failAtLine(QCoreApplication::translate("TVX::CORE::PtxReader", "expected 4 or 7 numbers"));
                 scan->valuesPerLine = found >= 7 ? 7 : 4;
                 scan->hasIntensity = true;
                 scan->hasColour = found >= 7;
@@ -328,7 +332,8 @@ std::vector<std::shared_ptr<ImportedScan>> PtxReader::read(const std::shared_ptr
         scans.push_back(scan);
     }
     if (scans.empty())
-        throw ImportError(QStringLiteral("%1: %2").arg(fileName, tr("no scan in the file")));
+        throw ImportError(QStringLiteral("%1: %2").arg(
+            fileName, QCoreApplication::translate("TVX::CORE::PtxReader", "no scan in the file")));
     return scans;
 }
 

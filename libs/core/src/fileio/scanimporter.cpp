@@ -2,6 +2,7 @@
 
 #include "fileio/importedscan.h"
 #include "fileio/importerror.h"
+#include "fileio/importgeometry.h"
 #include "fileio/scangeometry.h"
 #include "fileio/tvxfile.h"
 #include "fileio/tvxfilescaninfo.h"
@@ -29,16 +30,8 @@ constexpr quint64 progressCells = 1 << 16;
 constexpr int azimuthBins = 3600;
 constexpr std::size_t spacingSamples = 1 << 16;
 constexpr quint32 sampledColumns = 256;
+constexpr quint64 sampledBatches = 64;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("TVX::CORE::ScanImporter", text);
-}
-
-double wrapAngle(double angle)
-{
-    return angle - twoPi * std::round(angle / twoPi);
-}
 
 double azimuthOf(const ImportedPoint& p)
 {
@@ -48,37 +41,6 @@ double azimuthOf(const ImportedPoint& p)
 double elevationOf(const ImportedPoint& p)
 {
     return std::atan2(p.z, std::hypot(p.x, p.y));
-}
-
-// An angle difference in units of the sub-cell offset: halfDiagonal / 127 each, clamped.
-qint8 subCellOffset(double angle, double halfDiagonal)
-{
-    const double units = angle / halfDiagonal * 127.0;
-    return qint8(std::clamp(std::lround(units), -127L, 127L));
-}
-
-// Least squares line through (x, y): y = a + b·x. False with fewer than two distinct x.
-bool fitLine(const std::vector<std::pair<double, double>>& samples, double& a, double& b)
-{
-    if (samples.size() < 2)
-        return false;
-    double sx = 0, sy = 0;
-    for (const auto& [x, y] : samples) {
-        sx += x;
-        sy += y;
-    }
-    const double n = double(samples.size());
-    const double mx = sx / n, my = sy / n;
-    double sxx = 0, sxy = 0;
-    for (const auto& [x, y] : samples) {
-        sxx += (x - mx) * (x - mx);
-        sxy += (x - mx) * (y - my);
-    }
-    if (sxx <= 0)
-        return false;
-    b = sxy / sxx;
-    a = my - b * mx;
-    return std::isfinite(a) && std::isfinite(b) && std::abs(b) > 1e-12;
 }
 
 // How the cells are made: straight from a strip of source columns, from the points streamed in
@@ -96,9 +58,18 @@ struct Grid {
     bool fullCircle{false}; // made grids only: the last column meets the first
     Mode mode{Mode::Whole};
 
+    // Cosine and sine of every column's and row's centre angle.
+    std::vector<std::pair<double, double>> columnTurn, rowTurn;
+
     void setAngles()
     {
         angles = gridAngles(columns, rows, horizontalMin, horizontalMax, verticalMin, verticalMax);
+        columnTurn.resize(columns);
+        for (quint32 c = 0; c < columns; ++c)
+            columnTurn[c] = {std::cos(columnAngle(c, angles)), std::sin(columnAngle(c, angles))};
+        rowTurn.resize(rows);
+        for (quint32 r = 0; r < rows; ++r)
+            rowTurn[r] = {std::cos(rowAngle(r, angles)), std::sin(rowAngle(r, angles))};
     }
 };
 
@@ -143,7 +114,8 @@ private:
     void checkGridPosition(const ImportedPoint& point) const
     {
         if (point.column < 0 || point.row < 0 || point.column >= m_scan.columns || point.row >= m_scan.rows)
-            fail(tr("a point at column %1, row %2 lies outside the grid of %3 × %4")
+            fail(QCoreApplication::translate(
+                "TVX::CORE::ScanImporter", "a point at column %1, row %2 lies outside the grid of %3 × %4")
                      .arg(point.column)
                      .arg(point.row)
                      .arg(m_scan.columns)
@@ -160,7 +132,7 @@ private:
     void loadStrip(quint32 strip);
     TVXFileCell cellAt(quint32 column, quint32 row);
     void paint(quint32 column, quint32 row, const TVXFileCell& cell);
-    void writePanorama(const QString& path);
+    void writePanorama(const QString& path, const QByteArray& own);
 
     const ImportedScan& m_scan;
     ScanImporter::Options m_options;
@@ -174,6 +146,8 @@ private:
     std::size_t m_batchNext{0};
     std::size_t m_batchSize{0};
     QImage m_image;
+    uchar* m_pixels{nullptr}; // of m_image, taken once: scanLine() per cell costs
+    std::size_t m_stride{0};
     quint64 m_withReturn{0};
 };
 
@@ -194,8 +168,16 @@ bool Importer::planKeptGrid()
     quint64 count = 0;
     std::vector<ImportedPoint> batch(batchSize);
     ProgressGate gate(m_progress, quint64(columns) * rows);
+    // Reading past a file in order, only every k-th batch needs its coordinates.
+    const quint64 batches = quint64(columns) * rows / batchSize + 1;
+    const quint64 everyBatch = std::max<quint64>(1, batches / sampledBatches);
     const auto take = [&](ImportedScan::Cursor& cursor, bool checkOrder) {
-        while (const std::size_t n = cursor.read(batch.data(), batch.size())) {
+        for (quint64 b = 0;; ++b) {
+            const bool sampled = !checkOrder || b % everyBatch == 0;
+            const std::size_t n = sampled ? cursor.read(batch.data(), batch.size())
+                                          : cursor.readGridPositions(batch.data(), batch.size());
+            if (n == 0)
+                break;
             count += n;
             for (std::size_t i = 0; i < n; ++i) {
                 const ImportedPoint& p = batch[i];
@@ -205,7 +187,7 @@ bool Importer::planKeptGrid()
                     descending = descending && p.column <= previous;
                 }
                 previous = p.column;
-                if (!p.hasReturn || p.column % every != 0 || (p.x == 0 && p.y == 0 && p.z == 0))
+                if (!p.hasReturn || (!checkOrder && p.column % every != 0) || (p.x == 0 && p.y == 0 && p.z == 0))
                     continue;
                 const double h = azimuthOf(p);
                 cosSum[std::size_t(p.column)] += std::cos(h);
@@ -226,7 +208,10 @@ bool Importer::planKeptGrid()
         // The grid's size comes from the file's own word; its points must fill a fair part of it
         // before cells and a panorama are made for all of it.
         if (quint64(columns) * rows > 16 * count + (1 << 20))
-            fail(tr("a grid of %1 × %2 for only %3 points").arg(columns).arg(rows).arg(count));
+            fail(QCoreApplication::translate("TVX::CORE::ScanImporter", "a grid of %1 × %2 for only %3 points")
+                     .arg(columns)
+                     .arg(rows)
+                     .arg(count));
     }
 
     std::vector<std::pair<double, double>> samples;
@@ -271,28 +256,6 @@ bool Importer::planKeptGrid()
     else
         g.mode = Mode::Whole;
     return true;
-}
-
-// Of the steps within 12 % of `estimate`, the one at which the angles cluster best around cell
-// centres (the longest mean of the unit vectors at angle × 2π / step), from up to 8192 samples.
-template<typename Pair>
-double clusteredStep(const std::vector<Pair>& pairs, double Pair::*member, double estimate)
-{
-    const std::size_t every = std::max<std::size_t>(1, pairs.size() / 8192);
-    double best = estimate, bestStrength = -1;
-    for (int k = -60; k <= 60; ++k) {
-        const double step = estimate * (1 + 0.002 * k);
-        double c = 0, s = 0;
-        for (std::size_t i = 0; i < pairs.size(); i += every) {
-            c += std::cos(twoPi * (pairs[i].*member) / step);
-            s += std::sin(twoPi * (pairs[i].*member) / step);
-        }
-        if (c * c + s * s > bestStrength) {
-            bestStrength = c * c + s * s;
-            best = step;
-        }
-    }
-    return best;
 }
 
 // A grid by azimuth and elevation around the station, for points without one. Its steps come from
@@ -356,7 +319,7 @@ void Importer::planMadeGrid()
         gate.report(0);
     }
     if (withReturn == 0)
-        fail(tr("no point with a return to grid"));
+        fail(QCoreApplication::translate("TVX::CORE::ScanImporter", "no point with a return to grid"));
 
     // The azimuths covered: all but the widest run of empty bins (around the circle).
     int widestStart = 0, widest = 0;
@@ -384,6 +347,11 @@ void Importer::planMadeGrid()
     }
     const double vSpan = std::max(high - low, 1e-6);
     const double hSpan = std::max(span, 1e-6);
+    std::vector<double> azimuths, elevations;
+    for (const Pair& pair : pairs) {
+        azimuths.push_back(pair.azimuth);
+        elevations.push_back(pair.elevation);
+    }
 
     double hStep = m_options.stepDegrees * M_PI / 180.0;
     double vStep = hStep;
@@ -421,8 +389,8 @@ void Importer::planMadeGrid()
                 // Both estimates suffer from the beam's jitter (the outermost points widen the
                 // span; the low percentile shortens the step): take the steps near them at which
                 // the angles cluster best.
-                hStep = clusteredStep(pairs, &Pair::azimuth, hStep);
-                vStep = clusteredStep(pairs, &Pair::elevation, vStep);
+                hStep = clusteredStep(azimuths, hStep);
+                vStep = clusteredStep(elevations, vStep);
             }
         }
     }
@@ -430,7 +398,8 @@ void Importer::planMadeGrid()
         hStep = vStep = std::max({hSpan, vSpan, 1e-3}) / 1000;
     const auto cellsFor = [&](double h, double v) { return (std::floor(hSpan / h) + 2) * (std::floor(vSpan / v) + 2); };
     if (stepGiven && cellsFor(hStep, vStep) > double(ScanImporter::maximumGridCells))
-        fail(tr("a step of %1° makes more than %2 cells; choose a larger step")
+        fail(QCoreApplication::translate(
+            "TVX::CORE::ScanImporter", "a step of %1° makes more than %2 cells; choose a larger step")
                  .arg(m_options.stepDegrees)
                  .arg(ScanImporter::maximumGridCells));
     // A step of its own choosing makes no grid far emptier than the points are many.
@@ -441,15 +410,7 @@ void Importer::planMadeGrid()
             vStep *= 1.05;
         }
     }
-    // Cell centres where the points cluster: the phase of the sampled angles against the step.
-    const auto phase = [&pairs](double Pair::*member, double step) {
-        double c = 0, s = 0;
-        for (const Pair& pair : pairs) {
-            c += std::cos(twoPi * (pair.*member) / step);
-            s += std::sin(twoPi * (pair.*member) / step);
-        }
-        return c == 0 && s == 0 ? 0.0 : std::atan2(s, c) / twoPi * step;
-    };
+    // Cell centres where the points cluster.
     // The angle nearest `from` at which the phase puts a cell centre.
     const auto aligned = [](double from, double centre, double step) {
         return from + wrapAngle((centre - from) / step * twoPi) / twoPi * step;
@@ -457,17 +418,17 @@ void Importer::planMadeGrid()
     if (g.fullCircle) {
         g.columns = std::max<quint32>(2, quint32(std::ceil(twoPi / hStep)));
         hStep = twoPi / g.columns;
-        double start = aligned(0.0, phase(&Pair::azimuth, hStep), hStep);
+        double start = aligned(0.0, clusterPhase(azimuths, hStep), hStep);
         start -= twoPi * std::floor(start / twoPi);
         g.horizontalMin = start;
         g.horizontalMax = start + hStep * (g.columns - 1);
     } else {
-        const double start = aligned(spanStart, phase(&Pair::azimuth, hStep), hStep);
+        const double start = aligned(spanStart, clusterPhase(azimuths, hStep), hStep);
         g.columns = std::max<quint32>(2, quint32(std::lround((spanStart + hSpan - start) / hStep)) + 1);
         g.horizontalMin = start - twoPi * std::floor(start / twoPi);
         g.horizontalMax = g.horizontalMin + hStep * (g.columns - 1);
     }
-    const double bottom = aligned(low, phase(&Pair::elevation, vStep), vStep);
+    const double bottom = aligned(low, clusterPhase(elevations, vStep), vStep);
     g.rows = std::max<quint32>(2, quint32(std::lround((high - bottom) / vStep)) + 1);
     g.verticalMin = bottom;
     g.verticalMax = bottom + vStep * (g.rows - 1);
@@ -510,11 +471,15 @@ TVXFileCell Importer::cellOf(const ImportedPoint& point, quint32 column, quint32
     if (!point.hasReturn)
         return {};
     if (!std::isfinite(point.x) || !std::isfinite(point.y) || !std::isfinite(point.z))
-        fail(tr("the point of cell (%1, %2) is not finite").arg(column).arg(row));
-    const double distance = std::sqrt(point.x * point.x + point.y * point.y + point.z * point.z);
+        fail(QCoreApplication::translate("TVX::CORE::ScanImporter", "the point of cell (%1, %2) is not finite")
+                 .arg(column)
+                 .arg(row));
+    const double planar = std::sqrt(point.x * point.x + point.y * point.y);
+    const double distance = std::sqrt(planar * planar + point.z * point.z);
     const double millimetres = std::round(distance * 1000.0);
     if (millimetres > maximumMillimetres)
-        fail(tr("the point of cell (%1, %2) lies %3 m away, beyond the %4 m that scan files store")
+        fail(QCoreApplication::translate("TVX::CORE::ScanImporter",
+            "the point of cell (%1, %2) lies %3 m away, beyond the %4 m that scan files store")
                  .arg(column)
                  .arg(row)
                  .arg(distance, 0, 'f', 3)
@@ -522,9 +487,13 @@ TVXFileCell Importer::cellOf(const ImportedPoint& point, quint32 column, quint32
     if (millimetres < 1)
         return {}; // at the station: no measurement
     cell.distanceMm = quint32(millimetres);
-    const GridAngles& a = m_grid.angles;
-    cell.dx = subCellOffset(wrapAngle(azimuthOf(point) - columnAngle(column, a)), a.halfDiagonal);
-    cell.dy = subCellOffset(elevationOf(point) - rowAngle(row, a), a.halfDiagonal);
+    // The point turned into the cell's centre direction: what is left are the small angles.
+    const double u = point.x, w = -point.y; // horizontal angles grow clockwise seen from above
+    const auto [hc, hs] = m_grid.columnTurn[column];
+    const auto [vc, vs] = m_grid.rowTurn[row];
+    const double halfDiagonal = m_grid.angles.halfDiagonal;
+    cell.dx = subCellOffset(smallAngle(u * hc + w * hs, w * hc - u * hs), halfDiagonal);
+    cell.dy = subCellOffset(smallAngle(planar * vc + point.z * vs, point.z * vc - planar * vs), halfDiagonal);
     return cell;
 }
 
@@ -535,7 +504,8 @@ void Importer::place(std::vector<TVXFileCell>& cells, quint32 firstColumn, quint
 {
     TVXFileCell& target = cells[std::size_t(column - firstColumn) * m_grid.rows + row];
     if (target.distanceMm != 0
-        && (cell.distanceMm == 0 || cell.dx * cell.dx + cell.dy * cell.dy >= target.dx * target.dx + target.dy * target.dy))
+        && (cell.distanceMm == 0
+            || cell.dx * cell.dx + cell.dy * cell.dy >= target.dx * target.dx + target.dy * target.dy))
         return;
     target = cell;
 }
@@ -544,7 +514,8 @@ void Importer::fillWhole()
 {
     const quint64 cells = quint64(m_grid.columns) * m_grid.rows;
     if (cells > ScanImporter::maximumGridCells)
-        fail(tr("the grid of %1 × %2 is too large to be held whole; at most %3 cells")
+        fail(QCoreApplication::translate(
+            "TVX::CORE::ScanImporter", "the grid of %1 × %2 is too large to be held whole; at most %3 cells")
                  .arg(m_grid.columns)
                  .arg(m_grid.rows)
                  .arg(ScanImporter::maximumGridCells));
@@ -578,7 +549,9 @@ void Importer::loadStrip(quint32 strip)
         const quint32 column = columnOf(p);
         const quint32 row = rowOf(p);
         if (column < first)
-            fail(tr("the points of column %1 are not stored together").arg(p.column));
+            fail(QCoreApplication::translate(
+                "TVX::CORE::ScanImporter", "the points of column %1 are not stored together")
+                     .arg(p.column));
         if (column >= first + m_stripWidth)
             return false;
         place(m_cells, first, column, row, cellOf(p, column, row));
@@ -623,9 +596,9 @@ TVXFileCell Importer::cellAt(quint32 column, quint32 row)
 
 void Importer::paint(quint32 column, quint32 row, const TVXFileCell& cell)
 {
-    if (m_image.isNull() || cell.distanceMm == 0)
+    if (!m_pixels || cell.distanceMm == 0)
         return; // cells without return stay black
-    uchar* pixel = m_image.scanLine(int(row)) + 3 * std::size_t(column);
+    uchar* pixel = m_pixels + std::size_t(row) * m_stride + 3 * std::size_t(column);
     if (m_scan.hasColour) {
         pixel[0] = cell.red;
         pixel[1] = cell.green;
@@ -636,18 +609,25 @@ void Importer::paint(quint32 column, quint32 row, const TVXFileCell& cell)
     }
 }
 
-void Importer::writePanorama(const QString& path)
+// The scan's own panorama is kept as it is when it is a JPEG of one pixel per cell; otherwise it is
+// scaled to the grid, as the views take one pixel for one cell.
+void Importer::writePanorama(const QString& path, const QByteArray& own)
 {
-    const QByteArray own = m_scan.panorama();
-    if (!own.isEmpty() && own.startsWith("\xFF\xD8")) { // a JPEG already: kept as it is
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(own) != own.size())
-            throw ImportError(QStringLiteral("%1: %2").arg(path, file.errorString()));
-        return;
+    QImage image = m_image;
+    if (!own.isEmpty()) {
+        image = QImage::fromData(own);
+        if (image.isNull())
+            fail(QCoreApplication::translate("TVX::CORE::ScanImporter", "its panorama image cannot be decoded"));
+        const QSize grid(int(m_grid.columns), int(m_grid.rows));
+        if (image.size() == grid && own.startsWith("\xFF\xD8")) {
+            QFile file(path);
+            if (!file.open(QIODevice::WriteOnly) || file.write(own) != own.size())
+                throw ImportError(QStringLiteral("%1: %2").arg(path, file.errorString()));
+            return;
+        }
+        if (image.size() != grid)
+            image = image.scaled(grid, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     }
-    QImage image = own.isEmpty() ? m_image : QImage::fromData(own);
-    if (image.isNull())
-        fail(tr("its panorama image cannot be decoded"));
     QImageWriter writer(path, "jpg");
     writer.setQuality(90);
     if (!writer.write(image))
@@ -662,11 +642,16 @@ ScanImporter::Result Importer::run(const QString& scanPath)
         fillWhole();
     const Grid& g = m_grid;
     const quint64 total = quint64(g.columns) * g.rows;
-    if (m_scan.panorama().isEmpty()) {
+    const QByteArray ownPanorama = m_scan.panorama();
+    if (ownPanorama.isEmpty()) {
         m_image = QImage(int(g.columns), int(g.rows), QImage::Format_RGB888);
         if (m_image.isNull())
-            fail(tr("no memory for a panorama of %1 × %2 pixels").arg(g.columns).arg(g.rows));
+            fail(QCoreApplication::translate("TVX::CORE::ScanImporter", "no memory for a panorama of %1 × %2 pixels")
+                     .arg(g.columns)
+                     .arg(g.rows));
         m_image.fill(Qt::black);
+        m_pixels = m_image.bits();
+        m_stride = std::size_t(m_image.bytesPerLine());
     }
 
     TVXFileWriter writer;
@@ -702,7 +687,7 @@ ScanImporter::Result Importer::run(const QString& scanPath)
     if (!writer.write(scanPath, &error))
         throw ImportError(error);
     try {
-        writePanorama(ScanImporter::panoramaPathFor(scanPath));
+        writePanorama(ScanImporter::panoramaPathFor(scanPath), ownPanorama);
     } catch (...) {
         QFile::remove(scanPath);
         QFile::remove(TVXFile::dataPathFor(scanPath));

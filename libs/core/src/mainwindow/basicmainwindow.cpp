@@ -31,6 +31,7 @@
 #include "fileio/tvxfile.h"
 #include "project/basicproject.h"
 #include "project/filetreemodel.h"
+#include "project/projectimport.h"
 #include "project/projectitemscangroup.h"
 #include "scene/pointdistance.h"
 
@@ -45,6 +46,7 @@
 #include <QLoggingCategory>
 #include <QMdiArea>
 #include <QMenuBar>
+#include <QProgressDialog>
 #include <QRegularExpression>
 #include <QSettings>
 #include <QSignalMapper>
@@ -683,7 +685,10 @@ void BasicMainWindow::addScansToProject(const QModelIndex& folder)
     BasicProject& p = project();
     if (!p.isOpen() || p.isReadOnly())
         return;
-    const QStringList files = d->dialogs->openFileNames(tr("Add Scans"), p.projectDirectory(), tr("Scan Files (*.tvx)"));
+    const QString imports = ProjectImport::nameFilters().join(QLatin1Char(' '));
+    const QStringList files = d->dialogs->openFileNames(
+        tr("Add Scans"), p.projectDirectory(),
+        tr("Scans (*.tvx %1);;Scan Files (*.tvx);;Scans of Other Scanners (%1)").arg(imports));
     const auto node = p.treeModel()->item(folder);
     ProjectItemScanGroupPtr target;
     if (node && node->isFolder())
@@ -693,13 +698,46 @@ void BasicMainWindow::addScansToProject(const QModelIndex& folder)
     QStringList failed;
     for (const QString& file : files) {
         QString reason;
-        if (p.addScan(file, target, &reason) < 0)
+        if (ProjectImport::canImport(file)) {
+            if (!importScans(file, target, reason))
+                failed << QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(file), reason);
+        } else if (p.addScan(file, target, &reason) < 0) {
             failed << QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(file), reason);
-        else
+        } else {
             log(LogTableModel::Information, tr("Scan %1 added.").arg(QDir::toNativeSeparators(file)));
+        }
     }
     if (!failed.isEmpty())
         warn(tr("Add Scans"), tr("These scans could not be added:\n\n%1").arg(failed.join(QLatin1Char('\n'))));
+}
+
+bool BasicMainWindow::importScans(const QString& file, const ProjectItemScanGroupPtr& folder, QString& reason)
+{
+    const QString name = QDir::toNativeSeparators(file);
+    // On this thread, as everything else: the progress keeps the window alive and offers Cancel.
+    QProgressDialog progress(tr("Importing %1 ...").arg(name), tr("Cancel"), 0, 1000, this);
+    progress.setWindowTitle(tr("Add Scans"));
+    progress.setWindowModality(Qt::WindowModal);
+    progress.setMinimumDuration(0);
+    progress.setValue(0);
+    const ProjectImport::Result result = ProjectImport::importFile(
+        project(), file, folder, ScanImporter::Options(), [&progress](quint64 done, quint64 total) {
+            progress.setValue(total > 0 ? int(std::min<quint64>(done, total) * 1000 / total) : 0);
+            QCoreApplication::processEvents();
+            return !progress.wasCanceled();
+        });
+    if (result.cancelled) {
+        log(LogTableModel::Information, tr("Import of %1 cancelled; nothing was added.").arg(name));
+        return true;
+    }
+    if (!result.ok) {
+        reason = result.error;
+        return false;
+    }
+    log(LogTableModel::Information, tr("Scans imported from %1 into the folder %2: %3.")
+                                        .arg(name, result.folderName)
+                                        .arg(result.scans.size()));
+    return true;
 }
 
 void BasicMainWindow::deleteItemsFromProjectTree(QModelIndexList& indexes)

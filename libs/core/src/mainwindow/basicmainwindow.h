@@ -2,6 +2,7 @@
 
 #include "mainwindow/cursorid.h"
 #include "mainwindow/mdisubwindow.h"
+#include "project/projectitemscangroup.h"
 
 #include <QMainWindow>
 #include <QModelIndexList>
@@ -141,6 +142,9 @@ private:
     void placeStationMarks(GraphicsView* view);
     void placeStationMarks(SphericalViewGLWidget* view);
     void connectOperators();
+    // Imports a PTX or E57 file under `folder` with a progress dialog that can cancel it; true
+    // when imported or cancelled, else false with the reason.
+    bool importScans(const QString& file, const ProjectItemScanGroupPtr& folder, QString& reason);
 
     class OperatorHost;
 

@@ -18,10 +18,6 @@ namespace TVX::CORE {
 
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("TVX::CORE::ProjectImport", text);
-}
 
 // The three files of a scan.
 QStringList filesOf(const QString& scanPath)
@@ -70,7 +66,9 @@ std::vector<std::shared_ptr<ImportedScan>> ProjectImport::readScans(const QStrin
         return PtxReader::read(path);
     if (suffix == QLatin1String("e57"))
         return E57Reader::read(path);
-    throw ImportError(tr("%1: only PTX and E57 files can be imported").arg(path));
+    throw ImportError(
+        QCoreApplication::translate("TVX::CORE::ProjectImport", "%1: only PTX and E57 files can be imported")
+            .arg(path));
 }
 
 ProjectImport::Result ProjectImport::importFile(BasicProject& project, const QString& inputPath,
@@ -81,14 +79,15 @@ ProjectImport::Result ProjectImport::importFile(BasicProject& project, const QSt
     QElapsedTimer timer;
     timer.start();
     if (!project.isOpen() || project.isReadOnly()) {
-        result.error = tr("no project is open for writing");
+        result.error = QCoreApplication::translate("TVX::CORE::ProjectImport", "no project is open for writing");
         return result;
     }
     const QDir folder(QDir(project.projectDirectory()).filePath(QStringLiteral("scans")));
     QStringList written;
     try {
         if (!QDir().mkpath(folder.path()))
-            throw ImportError(tr("cannot create %1").arg(folder.path()));
+            throw ImportError(
+                QCoreApplication::translate("TVX::CORE::ProjectImport", "cannot create %1").arg(folder.path()));
         const auto scans = readScans(inputPath);
         quint64 total = 0;
         for (const auto& scan : scans)
@@ -121,7 +120,7 @@ ProjectImport::Result ProjectImport::importFile(BasicProject& project, const QSt
     } catch (const ImportError& error) {
         result.error = error.message();
     } catch (const std::bad_alloc&) {
-        result.error = tr("%1: not enough memory").arg(inputPath);
+        result.error = QCoreApplication::translate("TVX::CORE::ProjectImport", "%1: not enough memory").arg(inputPath);
     }
     if (result.cancelled || !result.error.isEmpty()) {
         removeFiles(written);
@@ -141,7 +140,9 @@ ProjectImport::Result ProjectImport::importFile(BasicProject& project, const QSt
         QString reason;
         const qint64 id = folderItem ? project.addScan(summary.file, folderItem, &reason) : -1;
         if (id < 0) {
-            result.error = tr("%1: the written scan cannot be read back: %2").arg(summary.file, reason);
+            result.error = QCoreApplication::translate(
+                "TVX::CORE::ProjectImport", "%1: the written scan cannot be read back: %2")
+                               .arg(summary.file, reason);
             if (folderIndex.isValid())
                 model.removeRows(folderIndex.row(), 1, parentIndex);
             project.setModified(wasModified);
@@ -174,11 +175,13 @@ ProjectImport::Result ProjectImport::importIntoDirectory(const QString& inputPat
             QDir().rmdir(directory.absolutePath());
     };
     if (!QDir().mkpath(directory.absolutePath())) {
-        result.error = tr("cannot create %1").arg(projectDirectory);
+        result.error
+            = QCoreApplication::translate("TVX::CORE::ProjectImport", "cannot create %1").arg(projectDirectory);
         return result;
     }
     const QStringList projects = directory.entryList({QStringLiteral("*.tvxprj")}, QDir::Files, QDir::Name);
-    projectFile = directory.absoluteFilePath(projects.isEmpty() ? BasicProject::defaultProjectFileName : projects.first());
+    projectFile
+        = directory.absoluteFilePath(projects.isEmpty() ? BasicProject::defaultProjectFileName : projects.first());
 
     BasicProject& project = BasicProject::instance();
     int code = 0;
@@ -195,7 +198,8 @@ ProjectImport::Result ProjectImport::importIntoDirectory(const QString& inputPat
     };
     if (project.isReadOnly()) {
         close();
-        result.error = tr("%1 cannot be written").arg(projectDirectory);
+        result.error
+            = QCoreApplication::translate("TVX::CORE::ProjectImport", "%1 cannot be written").arg(projectDirectory);
         return result;
     }
     result = importFile(project, inputPath, nullptr, options, progress);

@@ -29,8 +29,8 @@ public:
     ScanViewSceneGraph& operator=(const ScanViewSceneGraph&) = delete;
 
     // Camera: angles in radians, the vertical opening angle in degrees, a position in the scan frame.
-    // A new view looks at the horizon (a quarter turn about X from the nadir).
-    double angleX{1.5707963267948966};
+    // A new view looks at the horizon with the sky up: three quarter turns about X from the nadir.
+    double angleX{4.71238898038469};
     double angleY{0.0};
     double angleZ{0.0};
     double fieldOfView{60.0};

@@ -10,7 +10,6 @@ namespace TVX::CORE {
 
 namespace {
 
-constexpr double nearPlaneDepth = 0.001;
 // The third row of gluPerspective for near 0.001 and far 10: (far + near) / (near − far) and
 // 2·far·near / (near − far), as constants so that picking and drawing agree to the last digit.
 constexpr double depthScale = -1.0002000200020002;
