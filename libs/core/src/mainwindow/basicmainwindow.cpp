@@ -845,13 +845,25 @@ void BasicMainWindow::addScanSubWindow(MdiSubWindow* sub)
     connect(sub, &MdiSubWindow::signalMouseEntered, this, [this](MdiSubWindow* window) { d->subWindowUnderMouse = window; });
 }
 
+bool BasicMainWindow::activateView(quint32 scanId, MdiSubWindow::MdiSubWindowType kind)
+{
+    MdiSubWindow* existing = findSubWindow(scanId, kind);
+    if (existing)
+        d->mdiArea->setActiveSubWindow(existing);
+    return existing != nullptr;
+}
+
+void BasicMainWindow::warnOpenViewFailed()
+{
+    warn(tr("Open a new View Failed"),
+         tr("Tarvenix was unable to open a new scan view. Please close some other views and try again."));
+}
+
 void BasicMainWindow::openPlanarView(quint32 scanId)
 {
     const BusyCursor busy;
-    if (MdiSubWindow* existing = findSubWindow(scanId, MdiSubWindow::PlanarView)) {
-        d->mdiArea->setActiveSubWindow(existing);
+    if (activateView(scanId, MdiSubWindow::PlanarView))
         return;
-    }
     BasicProject& p = project();
     const auto file = p.scanFileOf(scanId);
     if (!file)
@@ -861,8 +873,7 @@ void BasicMainWindow::openPlanarView(quint32 scanId)
     const QImage image(imagePath);
     if (image.isNull()) {
         log(LogTableModel::Warning, tr("The panorama %1 cannot be read.").arg(QDir::toNativeSeparators(imagePath)));
-        warn(tr("Open a new View Failed"),
-             tr("Tarvenix was unable to open a new scan view. Please close some other views and try again."));
+        warnOpenViewFailed();
         return;
     }
     const TVXFileScanInfo& info = file->scanInfo();
@@ -906,10 +917,8 @@ void BasicMainWindow::openPlanarView(quint32 scanId)
 void BasicMainWindow::openSphericalView(quint32 scanId)
 {
     const BusyCursor busy;
-    if (MdiSubWindow* existing = findSubWindow(scanId, MdiSubWindow::SphericalView)) {
-        d->mdiArea->setActiveSubWindow(existing);
+    if (activateView(scanId, MdiSubWindow::SphericalView))
         return;
-    }
     BasicProject& p = project();
     if (p.scanIndex(scanId) < 0)
         return;
@@ -920,8 +929,7 @@ void BasicMainWindow::openSphericalView(quint32 scanId)
     if (!file || !graph || panorama.isNull()) {
         log(LogTableModel::Warning, file ? tr("The panorama %1 cannot be read.").arg(QDir::toNativeSeparators(imagePath))
                                          : tr("The scan %1 cannot be read.").arg(scanId));
-        warn(tr("Open a new View Failed"),
-             tr("Tarvenix was unable to open a new scan view. Please close some other views and try again."));
+        warnOpenViewFailed();
         return;
     }
     const TVXFileScanInfo& info = file->scanInfo();
@@ -953,10 +961,8 @@ void BasicMainWindow::openSphericalView(quint32 scanId)
 void BasicMainWindow::openPointcloudView(quint32 scanId)
 {
     const BusyCursor busy;
-    if (MdiSubWindow* existing = findSubWindow(scanId, MdiSubWindow::PointcloudView)) {
-        d->mdiArea->setActiveSubWindow(existing);
+    if (activateView(scanId, MdiSubWindow::PointcloudView))
         return;
-    }
     BasicProject& p = project();
     if (p.scanIndex(scanId) < 0)
         return;
@@ -971,8 +977,7 @@ void BasicMainWindow::openPointcloudView(quint32 scanId)
     }
     if (!sub) {
         log(LogTableModel::Warning, tr("The points of scan %1 cannot be read: %2").arg(p.scanName(scanId), reason));
-        warn(tr("Open a new View Failed"),
-             tr("Tarvenix was unable to open a new scan view. Please close some other views and try again."));
+        warnOpenViewFailed();
         return;
     }
     sub->setWindowTitle(tr("Pointcloud View: ") + QFileInfo(file->path()).fileName());

@@ -142,6 +142,10 @@ private:
     void placeStationMarks(GraphicsView* view);
     void placeStationMarks(SphericalViewGLWidget* view);
     void connectOperators();
+    // An open view of the scan and kind comes to the front; true when there was one.
+    bool activateView(quint32 scanId, MdiSubWindow::MdiSubWindowType kind);
+    // "Open a new View Failed", shown and logged.
+    void warnOpenViewFailed();
     // Imports a PTX or E57 file under `folder` with a progress dialog that can cancel it; true
     // when imported or cancelled, else false with the reason.
     bool importScans(const QString& file, const ProjectItemScanGroupPtr& folder, QString& reason);
