@@ -142,7 +142,7 @@ QVariant readPlain(QDataStream& stream, bool isNull)
 // through its meta type when the process has one, else its bytes are passed over.
 QVariant readColour(QDataStream& stream, bool isNull)
 {
-    constexpr int colourBytes = 11; // spec, alpha, three components, padding
+    constexpr int colourBytes = 11; // colour model, alpha, three components, padding
     const QMetaType type(QMetaType::QColor);
     if (!type.isValid()) {
         qCDebug(lcScanFile) << "a colour value is skipped: no GUI library loaded";
