@@ -11,12 +11,6 @@
 
 namespace TVX::CORE {
 
-namespace {
-
-constexpr quint32 deleteKey = 0x10000100;
-
-} // namespace
-
 AreaSelectionOperator::AreaSelectionOperator() = default;
 
 AreaSelectionOperator::~AreaSelectionOperator()
@@ -112,7 +106,7 @@ bool AreaSelectionOperator::mouseRelease(const ScanViewEvent& event)
 
 bool AreaSelectionOperator::keyPress(const ScanViewEvent& event)
 {
-    SphericalViewControl* view = event.code == deleteKey ? activeSphericalView() : nullptr;
+    SphericalViewControl* view = event.code == ScanViewEvent::DeleteKey ? activeSphericalView() : nullptr;
     const auto graph = m_selectedIn.lock();
     if (!view || !graph || graph != view->sceneGraph() || m_selected.empty())
         return false;

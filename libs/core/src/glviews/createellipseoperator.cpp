@@ -8,11 +8,8 @@ namespace TVX::CORE {
 CreateEllipseOperator::CreateEllipseOperator() = default;
 CreateEllipseOperator::~CreateEllipseOperator() = default;
 
-std::shared_ptr<ScanViewItem> CreateEllipseOperator::startItem(ScanViewSceneGraph& graph, const Vector3d& first,
-                                                               const Matrix3d& axes)
+std::shared_ptr<ScanViewItem> CreateEllipseOperator::startItem(ScanViewSceneGraph& graph, const Vector3d& first)
 {
-    m_centre = first;
-    m_axes = axes;
     const auto ellipse = std::make_shared<ScanViewEllipse>(first, first, first);
     graph.addItem(ellipse);
     return ellipse;
@@ -23,9 +20,9 @@ void CreateEllipseOperator::followCursor(const Vector3d& direction)
     // The cursor is a corner of the box around the ellipse: one semi-axis ends level with the
     // centre, the other straight above or below it.
     PlanePoint c, e;
-    if (!toPlane(m_axes, m_centre, c) || !toPlane(m_axes, direction, e))
+    if (!toPlane(axes(), first(), c) || !toPlane(axes(), direction, e))
         return;
-    item()->setPoints({m_centre, fromPlane(m_axes, {e.u, c.v}), fromPlane(m_axes, {c.u, e.v})});
+    item()->setPoints({first(), fromPlane(axes(), {e.u, c.v}), fromPlane(axes(), {c.u, e.v})});
 }
 
 } // namespace TVX::CORE

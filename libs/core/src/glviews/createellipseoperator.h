@@ -13,13 +13,8 @@ public:
     ~CreateEllipseOperator() override;
 
 protected:
-    std::shared_ptr<ScanViewItem> startItem(ScanViewSceneGraph& graph, const Vector3d& first,
-                                            const Matrix3d& axes) override;
+    std::shared_ptr<ScanViewItem> startItem(ScanViewSceneGraph& graph, const Vector3d& first) override;
     void followCursor(const Vector3d& direction) override;
-
-private:
-    Vector3d m_centre;
-    Matrix3d m_axes;
 };
 
 } // namespace TVX::CORE

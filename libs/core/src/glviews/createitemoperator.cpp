@@ -31,7 +31,7 @@ void CreateItemOperator::reset()
     m_graph.reset();
 }
 
-std::shared_ptr<ScanViewItem> CreateItemOperator::startItem(ScanViewSceneGraph&, const Vector3d&, const Matrix3d&)
+std::shared_ptr<ScanViewItem> CreateItemOperator::startItem(ScanViewSceneGraph&, const Vector3d&)
 {
     return nullptr;
 }
@@ -49,10 +49,11 @@ bool CreateItemOperator::mousePress(const ScanViewEvent& event)
         if (!view)
             return false;
         beginGesture();
-        const Vector3d first = view->screenToDirection(event.x, event.y);
-        if (first == Vector3d())
+        m_first = view->screenToDirection(event.x, event.y);
+        if (m_first == Vector3d())
             return true;
-        if (const auto item = startItem(*view->sceneGraph(), first, view->cameraRotation()))
+        m_axes = view->cameraRotation();
+        if (const auto item = startItem(*view->sceneGraph(), m_first))
             begin(*view, item);
         return true;
     }

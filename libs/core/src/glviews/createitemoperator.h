@@ -32,11 +32,14 @@ public:
 protected:
     CreateItemOperator();
 
-    // A new item at `first`, added to `graph`; `axes` are the camera's at the first press.
-    virtual std::shared_ptr<ScanViewItem> startItem(ScanViewSceneGraph& graph, const Vector3d& first,
-                                                    const Matrix3d& axes);
+    // A new item at the first press, added to `graph`.
+    virtual std::shared_ptr<ScanViewItem> startItem(ScanViewSceneGraph& graph, const Vector3d& first);
     // The cursor is at `direction` while the item is made.
     virtual void followCursor(const Vector3d& direction);
+
+    // The direction of the first press and the camera's axes then.
+    const Vector3d& first() const { return m_first; }
+    const Matrix3d& axes() const { return m_axes; }
 
     // Makes `item` (already in the view's scene graph) the one under construction.
     void begin(SphericalViewControl& view, const std::shared_ptr<ScanViewItem>& item);
@@ -53,6 +56,8 @@ protected:
     bool directionAt(const ScanViewEvent& event, Vector3d& direction) const;
 
 private:
+    Vector3d m_first;
+    Matrix3d m_axes;
     std::shared_ptr<ScanViewItem> m_item;
     std::shared_ptr<ScanViewSceneGraph> m_graph;
 };

@@ -20,10 +20,8 @@ void CreateMeasurmenttemOperator::setMeasurementKind(int kind)
     m_kind = kind;
 }
 
-std::shared_ptr<ScanViewItem> CreateMeasurmenttemOperator::startItem(ScanViewSceneGraph& graph,
-                                                                     const Vector3d& first, const Matrix3d&)
+std::shared_ptr<ScanViewItem> CreateMeasurmenttemOperator::startItem(ScanViewSceneGraph& graph, const Vector3d& first)
 {
-    m_first = first;
     const auto measurement = std::make_shared<ScanViewMeasurementItem>(m_kind, first, first);
     graph.addItem(measurement);
     return measurement;
@@ -31,7 +29,7 @@ std::shared_ptr<ScanViewItem> CreateMeasurmenttemOperator::startItem(ScanViewSce
 
 void CreateMeasurmenttemOperator::followCursor(const Vector3d& direction)
 {
-    item()->setPoints({m_first, direction});
+    item()->setPoints({first(), direction});
 }
 
 } // namespace TVX::CORE

@@ -20,13 +20,11 @@ public:
     int measurementKind() const { return m_kind; }
 
 protected:
-    std::shared_ptr<ScanViewItem> startItem(ScanViewSceneGraph& graph, const Vector3d& first,
-                                            const Matrix3d& axes) override;
+    std::shared_ptr<ScanViewItem> startItem(ScanViewSceneGraph& graph, const Vector3d& first) override;
     void followCursor(const Vector3d& direction) override;
 
 private:
     int m_kind{Distance3D};
-    Vector3d m_first;
 };
 
 } // namespace TVX::CORE

@@ -9,8 +9,7 @@ namespace TVX::CORE {
 CreatePolygonOperator::CreatePolygonOperator() = default;
 CreatePolygonOperator::~CreatePolygonOperator() = default;
 
-std::shared_ptr<ScanViewItem> CreatePolygonOperator::startItem(ScanViewSceneGraph& graph, const Vector3d& first,
-                                                               const Matrix3d&)
+std::shared_ptr<ScanViewItem> CreatePolygonOperator::startItem(ScanViewSceneGraph& graph, const Vector3d& first)
 {
     // The first vertex and the one that follows the cursor.
     const auto polygon = std::make_shared<ScanViewPolygon>(std::vector<Vector3d>{first, first});

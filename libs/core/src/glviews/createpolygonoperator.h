@@ -18,8 +18,7 @@ public:
     bool mouseDoubleClick(const ScanViewEvent& event) override;
 
 protected:
-    std::shared_ptr<ScanViewItem> startItem(ScanViewSceneGraph& graph, const Vector3d& first,
-                                            const Matrix3d& axes) override;
+    std::shared_ptr<ScanViewItem> startItem(ScanViewSceneGraph& graph, const Vector3d& first) override;
     void followCursor(const Vector3d& direction) override;
 };
 

@@ -8,11 +8,8 @@ namespace TVX::CORE {
 CreateRectangleOperator::CreateRectangleOperator() = default;
 CreateRectangleOperator::~CreateRectangleOperator() = default;
 
-std::shared_ptr<ScanViewItem> CreateRectangleOperator::startItem(ScanViewSceneGraph& graph, const Vector3d& first,
-                                                                 const Matrix3d& axes)
+std::shared_ptr<ScanViewItem> CreateRectangleOperator::startItem(ScanViewSceneGraph& graph, const Vector3d& first)
 {
-    m_first = first;
-    m_axes = axes;
     const auto rectangle = std::make_shared<ScanViewRectangle>(first, first, first);
     graph.addItem(rectangle);
     return rectangle;
@@ -22,9 +19,9 @@ void CreateRectangleOperator::followCursor(const Vector3d& direction)
 {
     // The edges stay parallel to the camera's axes at the first press.
     PlanePoint a, b;
-    if (!toPlane(m_axes, m_first, a) || !toPlane(m_axes, direction, b))
+    if (!toPlane(axes(), first(), a) || !toPlane(axes(), direction, b))
         return;
-    item()->setPoints({m_first, fromPlane(m_axes, {b.u, a.v}), fromPlane(m_axes, b)});
+    item()->setPoints({first(), fromPlane(axes(), {b.u, a.v}), fromPlane(axes(), b)});
 }
 
 } // namespace TVX::CORE

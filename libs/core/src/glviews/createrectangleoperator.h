@@ -12,13 +12,8 @@ public:
     ~CreateRectangleOperator() override;
 
 protected:
-    std::shared_ptr<ScanViewItem> startItem(ScanViewSceneGraph& graph, const Vector3d& first,
-                                            const Matrix3d& axes) override;
+    std::shared_ptr<ScanViewItem> startItem(ScanViewSceneGraph& graph, const Vector3d& first) override;
     void followCursor(const Vector3d& direction) override;
-
-private:
-    Vector3d m_first;
-    Matrix3d m_axes;
 };
 
 } // namespace TVX::CORE

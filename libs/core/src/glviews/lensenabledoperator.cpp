@@ -6,12 +6,6 @@
 
 namespace TVX::CORE {
 
-namespace {
-
-constexpr quint32 shiftKey = 0x10000000;
-
-} // namespace
-
 LensEnabledOperator::LensEnabledOperator() = default;
 LensEnabledOperator::~LensEnabledOperator() = default;
 
@@ -25,7 +19,7 @@ void LensEnabledOperator::deactivate()
 
 bool LensEnabledOperator::keyPress(const ScanViewEvent& event)
 {
-    if (event.code != shiftKey || !activeSphericalView())
+    if (event.code != ScanViewEvent::ShiftKey || !activeSphericalView())
         return false;
     if (host())
         host()->showLens(true);
@@ -35,7 +29,7 @@ bool LensEnabledOperator::keyPress(const ScanViewEvent& event)
 
 bool LensEnabledOperator::keyRelease(const ScanViewEvent& event)
 {
-    if (event.code != shiftKey || !m_lens)
+    if (event.code != ScanViewEvent::ShiftKey || !m_lens)
         return false;
     if (host())
         host()->showLens(false);

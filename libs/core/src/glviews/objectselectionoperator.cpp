@@ -7,12 +7,6 @@
 
 namespace TVX::CORE {
 
-namespace {
-
-constexpr quint32 deleteKey = 0x10000100;
-
-} // namespace
-
 ObjectSelectionOperator::ObjectSelectionOperator() = default;
 ObjectSelectionOperator::~ObjectSelectionOperator() = default;
 
@@ -46,7 +40,7 @@ bool ObjectSelectionOperator::mousePress(const ScanViewEvent& event)
 
 bool ObjectSelectionOperator::keyPress(const ScanViewEvent& event)
 {
-    SphericalViewControl* view = event.code == deleteKey ? activeSphericalView() : nullptr;
+    SphericalViewControl* view = event.code == ScanViewEvent::DeleteKey ? activeSphericalView() : nullptr;
     if (!view)
         return false;
     const auto graph = view->sceneGraph();

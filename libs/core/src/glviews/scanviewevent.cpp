@@ -47,14 +47,14 @@ quint32 scanViewKeyCode(int qtKey)
     case Qt::Key_Escape:
         return 38;
     case Qt::Key_Shift:
-        return 0x10000000;
+        return ScanViewEvent::ShiftKey;
     case Qt::Key_Alt:
-        return 0x10000002;
+        return ScanViewEvent::AltKey;
     case Qt::Key_Meta:
     case Qt::Key_AltGr:
-        return 0x10000003;
+        return ScanViewEvent::MetaKey;
     case Qt::Key_Delete:
-        return 0x10000100;
+        return ScanViewEvent::DeleteKey;
     default:
         return 0;
     }

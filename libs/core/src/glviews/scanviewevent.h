@@ -32,6 +32,13 @@ struct ScanViewEvent {
     };
     // The modifier flag of key records when any keyboard modifier is held.
     static constexpr quint32 modifierHeld = 0x10000007;
+    // Key codes of the modifier and editing keys (scanViewKeyCode).
+    enum KeyCode : quint32 {
+        ShiftKey = 0x10000000,
+        AltKey = 0x10000002,
+        MetaKey = 0x10000003,
+        DeleteKey = 0x10000100,
+    };
 
     quint32 kind{0};
     quint32 code{0}; // button code, key code, or the wheel delta as signed 32 bits

@@ -869,7 +869,7 @@ void BasicMainWindow::openPlanarView(quint32 scanId)
     if (!file)
         return;
     const QFileInfo scanFile(file->path());
-    const QString imagePath = scanFile.absolutePath() + QLatin1Char('/') + scanFile.completeBaseName() + QStringLiteral(".jpg");
+    const QString imagePath = panoramaPath(file->path());
     const QImage image(imagePath);
     if (image.isNull()) {
         log(LogTableModel::Warning, tr("The panorama %1 cannot be read.").arg(QDir::toNativeSeparators(imagePath)));
