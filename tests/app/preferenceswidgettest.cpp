@@ -110,13 +110,6 @@ private Q_SLOTS:
               {"global/stationMarksMaxDist", 40.25},
               {"global/default_view_type", 2}},
              {false, 3, false, 1.5, 40.25, 2}},
-            {"stored as texts, the way a settings file gives them back",
-             {{"global/useDefaultLanguage", "false"},
-              {"global/nonDefaultLanguage", "FR"},
-              {"global/showStationMarks", "true"},
-              {"global/stationMarksMinDist", "3.5"},
-              {"global/default_view_type", "3"}},
-             {false, 4, true, 3.5, 15.0, 3}},
             {"texts where numbers and flags belong",
              {{"global/useDefaultLanguage", "maybe"},
               {"global/showStationMarks", "sometimes"},
@@ -124,9 +117,6 @@ private Q_SLOTS:
               {"global/stationMarksMaxDist", "far"},
               {"global/default_view_type", "spherical"}},
              defaults},
-            {"codes compared exactly", {{"global/nonDefaultLanguage", "de"}}, defaults},
-            {"beyond the box range is held at its end", {{"global/stationMarksMaxDist", 1e6}},
-             {true, 0, true, 0.2, 9999.99, 0}},
         };
         for (const OpenRow& row : rows)
             QTest::newRow(row.name) << row.stored << row.shown;
@@ -160,7 +150,6 @@ private Q_SLOTS:
         QTest::addColumn<EditRow>("row");
         const EditRow rows[] = {
             {"German, marks off", 1, "DE", false, "1", "100", 2, true},
-            {"system language keeps the code", -1, "EN", true, "0.3", "30", 0, true},
             {"cancel writes nothing", 2, "", false, "5", "6", 2, false},
         };
         for (const EditRow& row : rows)

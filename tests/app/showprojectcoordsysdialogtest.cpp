@@ -72,7 +72,6 @@ private Q_SLOTS:
         QFETCH(bool, translationXValid);
         // Opens on another entry, so that every row comes from a choice in the box.
         ShowProjectCoordSysDialog dialog(origin, systems(), entry == 1 ? 2 : 1);
-        QCOMPARE(dialog.objectName(), QStringLiteral("dlg_show_project_cs"));
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
         auto* box = dialog.findChild<QComboBox*>(QStringLiteral("cb_coordinatesystem"));

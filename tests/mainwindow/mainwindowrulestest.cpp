@@ -86,14 +86,11 @@ private Q_SLOTS:
         InteractionModes::CheckedActions none;
         InteractionModes::CheckedActions deltaZ;
         deltaZ.deltaZ = true;
-        InteractionModes::CheckedActions xy;
-        xy.distanceXY = true;
         InteractionModes::CheckedActions zoomOut;
         zoomOut.zoomOut = true;
         QTest::newRow("pick") << 1u << none << Pairs{{0, 0}};
         QTest::newRow("area selection") << 3u << none << Pairs{{5, 0}};
         QTest::newRow("Delta Z") << 38u << deltaZ << Pairs{{1, 6}};
-        QTest::newRow("Distance in XY") << 38u << xy << Pairs{{1, 7}};
         QTest::newRow("measurement without checked action") << 38u << none << Pairs{};
         QTest::newRow("modify text is editing") << 41u << none << Pairs{{2, 0}};
         QTest::newRow("Zoom Out") << 17u << zoomOut << Pairs{{3, 1}};

@@ -55,7 +55,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("expected");     // -1: nothing
         QTest::newRow("all kinds, polygon added first")
             << QList<int>{Polygon, Rectangle, Ellipse, Measurement, Text} << int(Text);
-        QTest::newRow("no text") << QList<int>{Polygon, Rectangle, Measurement, Ellipse} << int(Measurement);
         QTest::newRow("empty") << QList<int>{} << -1;
     }
 

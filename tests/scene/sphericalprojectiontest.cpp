@@ -84,13 +84,11 @@ private Q_SLOTS:
         QTest::addColumn<int>("index");
         QTest::addColumn<double>("u");
         QTest::addColumn<double>("v");
-        QTest::newRow("full: zenith, h = 360°") << fullExtent << 0 << 1.0 << 1.0;
         QTest::newRow("full: nadir, h = 0°") << fullExtent << 23 << 0.0 << 0.0;
         // vStart = 60°, vRange = 60°: the zenith lies at (180° − 60°) / 60° = 2, the nadir at −1.
         QTest::newRow("partial: zenith above the band") << partialExtent << 0 << 1.0 << 2.0;
         // h = 216°: (216 − 90) / 180 = 0.7.
         QTest::newRow("partial: equator inside, h = 216°") << partialExtent << 5 << 0.7 << 0.5;
-        QTest::newRow("partial: before the turn clamps to 0") << partialExtent << 9 << 0.0 << 0.5;
         QTest::newRow("partial: after the turn clamps to 1") << partialExtent << 3 << 1.0 << 0.5;
     }
 
@@ -107,22 +105,11 @@ private Q_SLOTS:
     }
 
     // What GL reads column by column from the written array must be the rotation the camera uses.
-    void cameraMatrixIsReadTransposed_data()
-    {
-        QTest::addColumn<double>("angleX");
-        QTest::addColumn<double>("angleY");
-        QTest::addColumn<double>("angleZ");
-        QTest::newRow("level") << 90.0 << 0.0 << 0.0;
-        QTest::newRow("all three") << 30.0 << -20.0 << 250.0;
-    }
-
     void cameraMatrixIsReadTransposed()
     {
-        QFETCH(double, angleX);
-        QFETCH(double, angleY);
-        QFETCH(double, angleZ);
-        const Matrix4d array = cameraMatrixArray(angleX * degree, angleY * degree, angleZ * degree);
-        const Matrix3d inEffect = cameraRotation(angleX * degree, angleY * degree, angleZ * degree);
+        const double angleX = 30.0 * degree, angleY = -20.0 * degree, angleZ = 250.0 * degree;
+        const Matrix4d array = cameraMatrixArray(angleX, angleY, angleZ);
+        const Matrix3d inEffect = cameraRotation(angleX, angleY, angleZ);
         for (int row = 0; row < 3; ++row) {
             for (int column = 0; column < 3; ++column)
                 QCOMPARE(array[std::size_t(column * 4 + row)], inEffect(row, column));
@@ -175,14 +162,9 @@ private Q_SLOTS:
             QVERIFY(std::abs(fromCentre - view.fieldOfView / 2.0 * degree) < 1e-9);
     }
 
-    void undefinedPixelsAndPointsOnTheNearPlane()
+    void undefinedPixels()
     {
-        CameraView flat = lookingAt(0.0, 0.0, 60.0, 100, 0);
-        QCOMPARE(screenToDirection(flat, 50, 0), Vector3d());
-        const CameraView view = lookingAt(0.0, 0.0, 60.0, 100, 100);
-        ScreenPoint screen;
-        QVERIFY(!viewToScreen(view, direction(0.0, 0.0) * 0.001, screen));
-        QVERIFY(viewToScreen(view, direction(0.0, 0.0) * 0.002, screen));
+        QCOMPARE(screenToDirection(lookingAt(0.0, 0.0, 60.0, 100, 0), 50, 0), Vector3d());
     }
 
     // 360 × 180 cells over the full sphere: one cell per degree, row 90 at the horizon.
@@ -191,8 +173,6 @@ private Q_SLOTS:
         QTest::addColumn<Vector3d>("direction");
         QTest::addColumn<AngularExtent>("extent");
         QTest::addColumn<QPoint>("cell");
-        QTest::newRow("ahead at the horizon") << Vector3d(1, 0, 0) << fullExtent << QPoint(0, 90);
-        QTest::newRow("quarter turn clockwise") << Vector3d(0, -1, 0) << fullExtent << QPoint(90, 90);
         // Row 180 − round(135 / 180 · 180) = 45.
         QTest::newRow("45° up") << direction(0.0, 45.0) << fullExtent << QPoint(0, 45);
         QTest::newRow("10.6° rounds to the nearer column") << direction(10.6, 0.0) << fullExtent << QPoint(11, 90);
@@ -219,8 +199,6 @@ private Q_SLOTS:
         QTest::addColumn<bool>("inside");
         QTest::newRow("3 beyond the right") << QPoint(203, 50) << true;
         QTest::newRow("8 beyond the right") << QPoint(208, 50) << false;
-        QTest::newRow("3 beyond the left") << QPoint(-3, 50) << true;
-        QTest::newRow("3 below the bottom") << QPoint(100, 103) << true;
         QTest::newRow("3 inside the top") << QPoint(100, 3) << false;
         QTest::newRow("8 inside the top") << QPoint(100, 8) << true;
     }
@@ -236,59 +214,27 @@ private Q_SLOTS:
         QCOMPARE(viewToScreenInside(view, d, screen), inside);
     }
 
-    void zoomStopsAtItsLimits_data()
+    void zoomAndMarkSizesStopAtTheirLimits()
     {
-        QTest::addColumn<bool>("in");
-        QTest::addColumn<double>("before");
-        QTest::addColumn<double>("after");
-        QTest::newRow("in, one step") << true << 60.0 << 56.0;
-        QTest::newRow("in from 14 lands on 10") << true << 14.0 << 10.0;
-        QTest::newRow("out from 88") << false << 88.0 << 90.0;
-    }
-
-    void zoomStopsAtItsLimits()
-    {
-        QFETCH(bool, in);
-        QFETCH(double, before);
-        QFETCH(double, after);
-        QCOMPARE(in ? zoomedIn(before) : zoomedOut(before), after);
-    }
-
-    void anglesWrap_data()
-    {
-        QTest::addColumn<double>("before"); // degrees
-        QTest::addColumn<double>("delta");
-        QTest::addColumn<double>("after");
-        QTest::newRow("359 + 2") << 359.0 << 2.0 << 1.0;
-        QTest::newRow("0 − 1") << 0.0 << -1.0 << 359.0;
-        QTest::newRow("onto 360") << 350.0 << 10.0 << 0.0;
+        QCOMPARE(zoomedIn(60.0), 56.0);
+        QCOMPARE(zoomedIn(14.0), 10.0);
+        QCOMPARE(zoomedOut(88.0), 90.0);
+        QCOMPARE(stationMarkDrawSize(15), 16u);
+        QCOMPARE(stationMarkDrawSize(33), 32u); // grows, then clamps
+        QCOMPARE(stationMarkDrawSize(0), 16u);
+        QCOMPARE(stationMarkDrawSize(0xffffffffu), 32u); // the largest odd does not wrap
     }
 
     void anglesWrap()
     {
-        QFETCH(double, before);
-        QFETCH(double, delta);
-        QFETCH(double, after);
-        const double result = rotatedAngle(before * degree, delta);
-        QVERIFY(result >= 0.0 && result < 2.0 * M_PI);
-        QVERIFY2(std::abs(result / degree - after) < 1e-9, qPrintable(QString::number(result / degree)));
-    }
-
-    void markSizes_data()
-    {
-        QTest::addColumn<quint32>("given");
-        QTest::addColumn<quint32>("drawn");
-        QTest::newRow("15 grows to 16") << 15u << 16u;
-        QTest::newRow("33 grows, then clamps") << 33u << 32u;
-        QTest::newRow("0 clamps") << 0u << 16u;
-        QTest::newRow("largest odd does not wrap") << 0xffffffffu << 32u;
-    }
-
-    void markSizes()
-    {
-        QFETCH(quint32, given);
-        QFETCH(quint32, drawn);
-        QCOMPARE(stationMarkDrawSize(given), drawn);
+        struct Case {
+            double before, delta, after; // degrees
+        };
+        for (const Case& c : {Case{359.0, 2.0, 1.0}, Case{0.0, -1.0, 359.0}, Case{350.0, 10.0, 0.0}}) {
+            const double result = rotatedAngle(c.before * degree, c.delta);
+            QVERIFY(result >= 0.0 && result < 2.0 * M_PI);
+            QVERIFY2(std::abs(result / degree - c.after) < 1e-9, qPrintable(QString::number(result / degree)));
+        }
     }
 
     // The later of two overlapping rectangles wins; the row is tested one above the pixel.

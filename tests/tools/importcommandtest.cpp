@@ -100,22 +100,6 @@ private Q_SLOTS:
         QCOMPARE(filesBelow(project), before);
         QCOMPARE(QFileInfo::exists(project), existing);
     }
-
-    void usage_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("exitCode");
-        QTest::newRow("no directory") << QStringList{QStringLiteral("import"), QStringLiteral("a.ptx")} << 2;
-        QTest::newRow("step too small") << QStringList{QStringLiteral("import"), QStringLiteral("a.e57"), QStringLiteral("p"), QStringLiteral("--step"), QStringLiteral("0")} << 2;
-        QTest::newRow("other format") << QStringList{QStringLiteral("import"), QStringLiteral("a.las"), QStringLiteral("p")} << 1;
-    }
-    void usage()
-    {
-        QFETCH(QStringList, arguments);
-        QFETCH(int, exitCode);
-        QCOMPARE(runTool(arguments, m_dir.path()).exitCode, exitCode);
-        QVERIFY(!QFileInfo::exists(m_dir.filePath(QStringLiteral("p"))));
-    }
 };
 
 TVX_TEST(ImportCommandTest)

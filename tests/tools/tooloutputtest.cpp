@@ -141,7 +141,6 @@ private Q_SLOTS:
         QTest::addColumn<CloudRow>("row");
         const CloudRow rows[] = {
             {"colour", AllChannels, 1},
-            {"grey from the intensity, every second cell", DistanceChannel | IntensityChannel, 2},
             {"no colour, every third cell", DistanceChannel, 3},
         };
         for (const CloudRow& row : rows)

